@@ -1,0 +1,39 @@
+# How tests are built: one program for each test file, named after it, linked with the shared library itself.
+
+# The environment of every test: no accessibility bus, no settings daemon, plain input, one slice allocator.
+set(ZEL_TEST_ENVIRONMENT
+    NO_AT_BRIDGE=1
+    GSETTINGS_BACKEND=memory
+    GIO_USE_VFS=local
+    GTK_IM_MODULE=gtk-im-context-simple
+    GTK_THEME=Adwaita
+    G_SLICE=always-malloc
+    G_DEBUG=gc-friendly
+    "ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:strict_string_checks=1:check_initialization_order=1:abort_on_error=1"
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:fast_unwind_on_malloc=0:print_suppressions=0"
+    "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
+    "TSAN_OPTIONS=ignore_noninstrumented_modules=1:halt_on_error=1")
+
+# zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN])
+# makes the program folder.file. PLAIN is for tests that need neither GTK nor a display.
+function(zel_add_test folder file)
+  cmake_parse_arguments(TEST "PLAIN" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  get_filename_component(stem ${file} NAME_WE)
+  string(REGEX REPLACE "_test$" "" stem ${stem})
+  set(target ${folder}.${stem})
+
+  add_executable(${target} ${file} ${TEST_SOURCES})
+  zel_own_target(${target})
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  # White-box tests call private operations by their names.
+  target_compile_options(${target} PRIVATE -fno-access-control)
+  if(TEST_PLAIN)
+    target_link_libraries(${target} PRIVATE GTest::gmock GTest::gtest GTest::gtest_main ${TEST_LIBRARIES})
+  else()
+    target_link_libraries(${target} PRIVATE zel-test-support ${TEST_LIBRARIES})
+    target_precompile_headers(${target} REUSE_FROM zel-test-pch)
+  endif()
+
+  add_test(NAME ${target} COMMAND ${target})
+  set_tests_properties(${target} PROPERTIES ENVIRONMENT "${ZEL_TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}" TIMEOUT 300)
+endfunction()

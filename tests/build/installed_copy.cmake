@@ -1,0 +1,20 @@
+# Installs the build into a folder of its own and builds and runs the outside project against it, both ways.
+function(run)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(NOT result EQUAL 0)
+    list(JOIN ARGN " " command)
+    message(FATAL_ERROR "${command}\n${output}")
+  endif()
+endfunction()
+
+file(REMOVE_RECURSE ${WORK})
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
+set(ENV{LD_LIBRARY_PATH} ${WORK}/prefix/${LIBDIR})
+set(ENV{PKG_CONFIG_PATH} ${WORK}/prefix/${LIBDIR}/pkgconfig)
+foreach(way package pkgconfig)
+  run(${CMAKE_COMMAND} -G Ninja -S ${CONSUMER} -B ${WORK}/${way} -DWAY=${way} -DCMAKE_CXX_COMPILER=${CXX}
+      -DCMAKE_PREFIX_PATH=${WORK}/prefix)
+  run(${CMAKE_COMMAND} --build ${WORK}/${way})
+  run(${WORK}/${way}/consumer)
+endforeach()
+message(STATUS "The installed copy is found by the CMake package and by pkg-config")

@@ -1,0 +1,5 @@
+#include <ZelCommonView/ZelCommonView.h>
+
+int main() {
+    return 0;
+}
