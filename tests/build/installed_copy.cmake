@@ -1,4 +1,5 @@
 # Installs the build into a folder of its own and builds and runs the outside project against it, both ways.
+cmake_minimum_required(VERSION 3.25)
 function(run)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT result EQUAL 0)

@@ -1,4 +1,5 @@
 # Compares the includes of the umbrella header with the list of public headers.
+cmake_minimum_required(VERSION 3.25)
 file(STRINGS ${ROOT}/ZelCommonView/ZelCommonView.h lines REGEX "^#include")
 set(included)
 foreach(line IN LISTS lines)
