@@ -7,8 +7,7 @@
 
 namespace ZelView::Fragments {
 
-FragmentDrawerHelper::FragmentDrawerHelper(const Gtk::Widget& value)
-    : widget(value) {}
+FragmentDrawerHelper::FragmentDrawerHelper(const Gtk::Widget& value) : widget(value) {}
 
 Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::getBackground() const {
     return background;
@@ -60,7 +59,8 @@ void FragmentDrawerHelper::_saveBackground(const Cairo::RefPtr<Cairo::Context>& 
     background = _getDrawed(context);
 }
 
-Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::_getDrawed(const Cairo::RefPtr<Cairo::Context>& context) const {
+Glib::RefPtr<Gdk::Pixbuf>
+FragmentDrawerHelper::_getDrawed(const Cairo::RefPtr<Cairo::Context>& context) const {
     const int width = widget.get_allocated_width();
     const int height = widget.get_allocated_height();
     if (width <= 0 || height <= 0)
@@ -103,10 +103,11 @@ Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::_getImage(const Cairo::RefPtr<Ca
     return _addAlpha(_getDrawed(context));
 }
 
-Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::_getFragmentImage(const Cairo::RefPtr<Cairo::Context>& context,
-                                                                  Fragment& fragment) {
+Glib::RefPtr<Gdk::Pixbuf>
+FragmentDrawerHelper::_getFragmentImage(const Cairo::RefPtr<Cairo::Context>& context, Fragment& fragment) {
     if (fragment.needRedraw) {
-        // The flag goes first: a fragment that marks itself while it is painted is painted again the next time.
+        // The flag goes first: a fragment that marks itself while it is painted is painted again the next
+        // time.
         fragment.needRedraw = false;
         fragment.image = _getImage(context, fragment.drawer);
     }
@@ -124,7 +125,8 @@ void FragmentDrawerHelper::_attachSticker(const Glib::RefPtr<Gdk::Pixbuf>& pictu
         return;
     // A picture from before a change of size covers what it can; beyond its edge there is nothing to compose.
     const int width = std::min({widget.get_allocated_width(), picture->get_width(), background->get_width()});
-    const int height = std::min({widget.get_allocated_height(), picture->get_height(), background->get_height()});
+    const int height =
+        std::min({widget.get_allocated_height(), picture->get_height(), background->get_height()});
     picture->composite(background, 0, 0, width, height, 0, 0, 1, 1, Gdk::INTERP_NEAREST, 255);
 }
 

@@ -19,15 +19,16 @@ using DrawFunction = std::function<void(const Cairo::RefPtr<Cairo::Context>&)>;
 
 /// One signal of a canvas and the picture that is kept of it.
 struct Fragment {
-    bool needRedraw = false;          ///< the image is out of date
-    DrawFunction drawer;              ///< paints the fragment
+    bool needRedraw = false;         ///< the image is out of date
+    DrawFunction drawer;             ///< paints the fragment
     Glib::RefPtr<Gdk::Pixbuf> image; ///< cached picture with alpha, or null
 };
 
 /// Does the image work of a canvas: it composes a picture of the widget's size from layers.
 ///
-/// A layer is painted on the background colour, and that colour is then made transparent. What a layer paints in
-/// exactly the background colour thus disappears. A widget without a size gets no picture, and nothing is composed.
+/// A layer is painted on the background colour, and that colour is then made transparent. What a layer paints
+/// in exactly the background colour thus disappears. A widget without a size gets no picture, and nothing is
+/// composed.
 class ZEL_API FragmentDrawerHelper {
 public:
     explicit FragmentDrawerHelper(const Gtk::Widget& widget);
@@ -49,7 +50,8 @@ public:
     /// Makes a layer of what the function paints and composes it.
     void drawAsFragment(const Cairo::RefPtr<Cairo::Context>& context, const DrawFunction& function);
     /// Makes one layer of what all functions paint and composes it.
-    void drawAsFragment(const Cairo::RefPtr<Cairo::Context>& context, const std::vector<DrawFunction>& functions);
+    void drawAsFragment(const Cairo::RefPtr<Cairo::Context>& context,
+                        const std::vector<DrawFunction>& functions);
     /// Composes the fragment's image, which is painted anew only if it is out of date.
     void drawFragment(const Cairo::RefPtr<Cairo::Context>& context, Fragment& fragment);
 
@@ -57,10 +59,12 @@ private:
     void _clearBackground(const Cairo::RefPtr<Cairo::Context>& context);
     void _saveBackground(const Cairo::RefPtr<Cairo::Context>& context);
     Glib::RefPtr<Gdk::Pixbuf> _getDrawed(const Cairo::RefPtr<Cairo::Context>& context) const;
-    Glib::RefPtr<Gdk::Pixbuf> _getImage(const Cairo::RefPtr<Cairo::Context>& context, const DrawFunction& function);
+    Glib::RefPtr<Gdk::Pixbuf> _getImage(const Cairo::RefPtr<Cairo::Context>& context,
+                                        const DrawFunction& function);
     Glib::RefPtr<Gdk::Pixbuf> _getImage(const Cairo::RefPtr<Cairo::Context>& context,
                                         const std::vector<DrawFunction>& functions);
-    Glib::RefPtr<Gdk::Pixbuf> _getFragmentImage(const Cairo::RefPtr<Cairo::Context>& context, Fragment& fragment);
+    Glib::RefPtr<Gdk::Pixbuf> _getFragmentImage(const Cairo::RefPtr<Cairo::Context>& context,
+                                                Fragment& fragment);
     Glib::RefPtr<Gdk::Pixbuf> _addAlpha(const Glib::RefPtr<Gdk::Pixbuf>& picture) const;
     void _attachSticker(const Glib::RefPtr<Gdk::Pixbuf>& picture);
 

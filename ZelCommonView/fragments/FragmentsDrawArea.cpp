@@ -2,8 +2,7 @@
 
 namespace ZelView {
 
-FragmentsDrawArea::FragmentsDrawArea()
-    : helper(*this) {
+FragmentsDrawArea::FragmentsDrawArea() : helper(*this) {
     property_expand() = true;
     signal_configure_event().connect(sigc::mem_fun(*this, &FragmentsDrawArea::_onConfigure), true);
 }

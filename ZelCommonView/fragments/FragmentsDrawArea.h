@@ -14,12 +14,13 @@
 
 namespace ZelView {
 
-/// The canvas of every plot. It keeps a picture of each fragment, so that one changed signal of many is painted
-/// anew without the others.
+/// The canvas of every plot. It keeps a picture of each fragment, so that one changed signal of many is
+/// painted anew without the others.
 ///
-/// A repaint goes: `Start` layers, `BeforeFragments` layers, fragments in the order of their keys, `AfterFragments`
-/// layers, `End` layers; within a position in the order of adding. All but `Start` and `End` make up the picture that
-/// can be saved. Function objects run in the widget's paint only, with the state of the context saved around each.
+/// A repaint goes: `Start` layers, `BeforeFragments` layers, fragments in the order of their keys,
+/// `AfterFragments` layers, `End` layers; within a position in the order of adding. All but `Start` and `End`
+/// make up the picture that can be saved. Function objects run in the widget's paint only, with the state of
+/// the context saved around each.
 class ZEL_API FragmentsDrawArea : public Gtk::DrawingArea {
 public:
     using DrawFunction = Fragments::DrawFunction;
@@ -36,11 +37,12 @@ public:
     void removeFragment(const void* key);
     void removeFragments();
 
-    /// Marks all fragments as out of date and asks for a repaint. Until the next `redraw` of one key all fragments
-    /// are painted into one picture at each repaint, and their own images are neither used nor refreshed.
+    /// Marks all fragments as out of date and asks for a repaint. Until the next `redraw` of one key all
+    /// fragments are painted into one picture at each repaint, and their own images are neither used nor
+    /// refreshed.
     void redraw();
-    /// Marks one fragment as out of date and asks for a repaint. A key that is not known gets an empty entry, whose
-    /// paint throws `std::bad_function_call`.
+    /// Marks one fragment as out of date and asks for a repaint. A key that is not known gets an empty entry,
+    /// whose paint throws `std::bad_function_call`.
     void redraw(const void* key);
 
     /// Initially opaque white. Asks for no repaint, and images that are cached already keep their colour.
@@ -48,11 +50,12 @@ public:
     /// While frozen the area shows the last composed picture and paints nothing else. Asks for no repaint.
     void setIsFreezed(bool value);
 
-    /// Saves the fragment's own image to a file of a gdk-pixbuf type such as "png". One that was never painted by
-    /// itself has no image, and nothing is written; a key that is not known gets an empty entry. Throws `Glib::Error`
-    /// on a bad path or type.
+    /// Saves the fragment's own image to a file of a gdk-pixbuf type such as "png". One that was never
+    /// painted by itself has no image, and nothing is written; a key that is not known gets an empty entry.
+    /// Throws `Glib::Error` on a bad path or type.
     void saveFragment(const void* key, const std::string& fileName, const std::string& type);
-    /// Saves the composed picture; writes nothing before the first paint. Throws `Glib::Error` like `saveFragment`.
+    /// Saves the composed picture; writes nothing before the first paint. Throws `Glib::Error` like
+    /// `saveFragment`.
     void saveSummaryImage(const std::string& fileName, const std::string& type);
 
 protected:

@@ -7,8 +7,7 @@
 
 namespace ZelView {
 
-ConverterProxy::ConverterProxy()
-    : converter(_createConverter(CoordsConvertMode::Stretchable)) {
+ConverterProxy::ConverterProxy() : converter(_createConverter(CoordsConvertMode::Stretchable)) {
     converter->recalc();
 }
 
@@ -60,8 +59,8 @@ void ConverterProxy::setYBorders(float min, float max) {
 }
 
 void ConverterProxy::setCoordsConvertMode(CoordsConvertMode mode) {
-    // Drawers hold the old pointer until the signal has told them, so the old converter goes last. If the mode is
-    // not known it goes while the exception leaves.
+    // Drawers hold the old pointer until the signal has told them, so the old converter goes last. If the
+    // mode is not known it goes while the exception leaves.
     const std::unique_ptr<CoordsConverter> old = std::move(converter);
     converter = _createConverter(mode);
     if (old) {
@@ -75,8 +74,8 @@ void ConverterProxy::setCoordsConvertMode(CoordsConvertMode mode) {
 }
 
 void ConverterProxy::addBorderable(const Zel::IBorderable& borderable) {
-    connections.connect(&borderable, borderable.rangeChanged.connect(
-                                         [this, &borderable] { _recalcBorder(borderable); }));
+    connections.connect(&borderable,
+                        borderable.rangeChanged.connect([this, &borderable] { _recalcBorder(borderable); }));
     _recalcBorder(borderable);
 }
 
@@ -130,7 +129,8 @@ void ConverterProxy::_recalcConverterBorders() {
         all.push_back(border);
     const CoordsConverter::Border summary = CoordsBordersCalc::getSummary(all);
 
-    // A listener may call back into the proxy and replace the converter, so it is asked for anew after each signal.
+    // A listener may call back into the proxy and replace the converter, so it is asked for anew after each
+    // signal.
     if (xBordersMode == BordersMode::Auto) {
         if (summary.xMin != converter->xMin || summary.xMax != converter->xMax)
             xBordersChanged.emit();

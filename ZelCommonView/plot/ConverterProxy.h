@@ -15,8 +15,8 @@ class IBorderable;
 
 namespace ZelView {
 
-/// Owns the converter of one draw area, keeps its limits in step with the registered borderables and exchanges the
-/// concrete converter at run time.
+/// Owns the converter of one draw area, keeps its limits in step with the registered borderables and
+/// exchanges the concrete converter at run time.
 ///
 /// Programming errors are thrown as the name of the operation, a `const char*`.
 class ZEL_API ConverterProxy {
@@ -49,9 +49,9 @@ public:
     void setXBorders(float min, float max);
     /// World limits of y. Throws "setYBorders" unless the y mode is manual and `min` is not above `max`.
     void setYBorders(float min, float max);
-    /// Replaces the converter, also by one of the same kind, and emits `converterChanged`. Size, limits and margins
-    /// are kept; `rowHeight` and `onePulseHeight` start anew. Throws "_createConverter" for any other value; the
-    /// proxy then holds no converter, and every setter but this one throws its own name.
+    /// Replaces the converter, also by one of the same kind, and emits `converterChanged`. Size, limits and
+    /// margins are kept; `rowHeight` and `onePulseHeight` start anew. Throws "_createConverter" for any other
+    /// value; the proxy then holds no converter, and every setter but this one throws its own name.
     void setCoordsConvertMode(CoordsConvertMode mode);
 
     /// From now on the limits follow this object. It must outlive its removal or the proxy.
@@ -71,7 +71,8 @@ private:
     BordersMode xBordersMode = BordersMode::Auto;
     BordersMode yBordersMode = BordersMode::Auto;
     Zel::PointerConnectionsDispatcher connections;
-    std::map<const Zel::IBorderable*, CoordsConverter::Border> borders; ///< the last limits of each borderable
+    std::map<const Zel::IBorderable*, CoordsConverter::Border>
+        borders; ///< the last limits of each borderable
 };
 
 } // namespace ZelView

@@ -60,8 +60,9 @@ CoordsConverter::Border CoordsBordersCalc::getXY(const Zel::IBorderable& bordera
     recalcValueDown10persent(border.yMin);
     recalcValueUp10persent(border.yMax);
 
-    // The steps that follow differ between the axes and between the edges; that is meant. A flat x grows to the right
-    // and a flat y downward, and only the lower edge of y is pulled so that the zero line stays in view.
+    // The steps that follow differ between the axes and between the edges; that is meant. A flat x grows to
+    // the right and a flat y downward, and only the lower edge of y is pulled so that the zero line stays in
+    // view.
     if (std::fabs(border.xMin - border.xMax) < 0.001)
         border.xMax = border.xMin + 1;
     if (std::fabs(border.yMin - border.yMax) < 0.001)

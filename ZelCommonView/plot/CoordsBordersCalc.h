@@ -11,7 +11,8 @@ class IBorderable;
 
 namespace ZelView {
 
-/// Turns what a borderable reports into the limits of a view, and merges many limits into one. It holds no state.
+/// Turns what a borderable reports into the limits of a view, and merges many limits into one. It holds no
+/// state.
 class ZEL_API CoordsBordersCalc {
 public:
     /// The view of an empty plot: x 0 to 10, y -1 to 10.

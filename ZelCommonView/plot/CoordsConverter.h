@@ -21,8 +21,8 @@ enum class CoordsConvertMode : std::uint32_t {
 
 /// Maps world units to pixels. All arithmetic is in 32-bit float, in the association that the sources show.
 ///
-/// The data are public, since drawers of long curves read them in their loops. A span or a size of 0 divides by zero
-/// on some roads: the result is then not a number and is passed on unchecked.
+/// The data are public, since drawers of long curves read them in their loops. A span or a size of 0 divides
+/// by zero on some roads: the result is then not a number and is passed on unchecked.
 class ZEL_API CoordsConverter {
 public:
     /// World limits.
@@ -71,6 +71,7 @@ public:
     void recalc();
 
     Border getBorder() const { return {xMin, xMax, yMin, yMax}; }
+
     void setBorder(const Border& border);
 
     float rowHeight = 16;     ///< pixels between the rows of binary series

@@ -19,8 +19,7 @@ bool fitsInt(float value) {
 
 } // namespace
 
-CoordsDrawer::CoordsDrawer(const CoordsDrawerCfg& value)
-    : cfg(value) {}
+CoordsDrawer::CoordsDrawer(const CoordsDrawerCfg& value) : cfg(value) {}
 
 CoordsDrawer::~CoordsDrawer() = default;
 
@@ -28,7 +27,8 @@ void CoordsDrawer::draw(const Cairo::RefPtr<Cairo::Context>& context) {
     static const std::vector<double> dashes{5.0};
 
     context->set_antialias(Cairo::ANTIALIAS_NONE);
-    context->set_source_rgba(cfg.color.r / 255.0, cfg.color.g / 255.0, cfg.color.b / 255.0, cfg.color.a / 255.0);
+    context->set_source_rgba(cfg.color.r / 255.0, cfg.color.g / 255.0, cfg.color.b / 255.0,
+                             cfg.color.a / 255.0);
     context->set_font_size(cfg.fontSize);
     context->set_line_width(cfg.axisLineWidth);
     _drawAxis(context);
@@ -119,8 +119,8 @@ void CoordsDrawer::_drawStepsX(const Cairo::RefPtr<Cairo::Context>& context) {
     float step;
     CoordsStepsCalc(*converter, cfg).getStepsInfoX(first, last, step);
     const std::size_t precision = _getPrecision(step);
-    // The last line is left out here and painted for y; that is meant. The counter is wide, so that it passes the
-    // largest `last` that there is.
+    // The last line is left out here and painted for y; that is meant. The counter is wide, so that it passes
+    // the largest `last` that there is.
     for (std::int64_t i = first; i < last; ++i) {
         const float value = static_cast<float>(i) * step;
         Zel::PointF from, to;

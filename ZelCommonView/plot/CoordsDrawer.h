@@ -24,7 +24,7 @@ struct CoordsDrawerCfg {
     std::uint32_t flags = 0xFFFFFFFF;
     float fontSize = 12;
     float axisLineWidth = 2;
-    float stepTextXOffsetX = 5;  ///< from a vertical line's top end to its number
+    float stepTextXOffsetX = 5; ///< from a vertical line's top end to its number
     float stepTextXOffsetY = 20;
     float stepTextYOffsetX = 10; ///< from a horizontal line's left end to its number
     float stepTextYOffsetY = -10;
@@ -33,7 +33,8 @@ struct CoordsDrawerCfg {
     Zel::Color color = {100, 100, 100, 255};
 };
 
-/// Paints the axes, the dashed grid and its numbers. A host adds it before the fragments, so that curves lie over it.
+/// Paints the axes, the dashed grid and its numbers. A host adds it before the fragments, so that curves lie
+/// over it.
 class ZEL_API CoordsDrawer : public InfoDrawer {
 public:
     explicit CoordsDrawer(const CoordsDrawerCfg& cfg = CoordsDrawerCfg());
@@ -44,8 +45,8 @@ public:
 
 protected:
     /// For derived classes; this class never calls it, and here it does nothing.
-    virtual void _onDrawAxis(const Cairo::RefPtr<Cairo::Context>& context, Zel::PointF, Zel::PointF, Zel::PointF,
-                             Zel::PointF, Zel::PointF);
+    virtual void _onDrawAxis(const Cairo::RefPtr<Cairo::Context>& context, Zel::PointF, Zel::PointF,
+                             Zel::PointF, Zel::PointF, Zel::PointF);
     /// Paints the number of the vertical line between the two pixels.
     virtual void _onDrawStepLineX(const Cairo::RefPtr<Cairo::Context>& context, const std::string& text,
                                   Zel::PointF from, Zel::PointF to);
@@ -53,7 +54,8 @@ protected:
     virtual void _onDrawStepLineY(const Cairo::RefPtr<Cairo::Context>& context, const std::string& text,
                                   Zel::PointF from, Zel::PointF to);
 
-    // Both ends, in pixels, of a line across the whole widget: at the first step, at the last one, at world 0.
+    // Both ends, in pixels, of a line across the whole widget: at the first step, at the last one, at world
+    // 0.
     void _getFirstStepLineXPos(Zel::PointF& from, Zel::PointF& to) const;
     void _getLastStepLineXPos(Zel::PointF& from, Zel::PointF& to) const;
     void _getCenterStepLineXPos(Zel::PointF& from, Zel::PointF& to) const;

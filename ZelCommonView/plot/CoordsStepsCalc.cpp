@@ -34,21 +34,20 @@ int toInt(float value) {
 } // namespace
 
 CoordsStepsCalc::CoordsStepsCalc(const CoordsConverter& coordsConverter, const CoordsDrawerCfg& drawerCfg)
-    : converter(coordsConverter)
-    , cfg(drawerCfg) {}
+    : converter(coordsConverter), cfg(drawerCfg) {}
 
 void CoordsStepsCalc::getStepsInfoX(int& first, int& last, float& step) const {
-    _getStepsInfo(converter.visualWidth, cfg.minStepPixelsX, converter.realWidth, converter.xMin, converter.xMax,
-                  first, last, step);
+    _getStepsInfo(converter.visualWidth, cfg.minStepPixelsX, converter.realWidth, converter.xMin,
+                  converter.xMax, first, last, step);
 }
 
 void CoordsStepsCalc::getStepsInfoY(int& first, int& last, float& step) const {
-    _getStepsInfo(converter.visualHeight, cfg.minStepPixelsY, converter.realHeight, converter.yMin, converter.yMax,
-                  first, last, step);
+    _getStepsInfo(converter.visualHeight, cfg.minStepPixelsY, converter.realHeight, converter.yMin,
+                  converter.yMax, first, last, step);
 }
 
-void CoordsStepsCalc::_getStepsInfo(float visual, float minStepPixels, float real, float min, float max, int& first,
-                                    int& last, float& step) const {
+void CoordsStepsCalc::_getStepsInfo(float visual, float minStepPixels, float real, float min, float max,
+                                    int& first, int& last, float& step) const {
     step = _getStepValue(real, getCount(visual, minStepPixels));
     // A step that is not finite has no lines of its own to count; running to them would take hours.
     if (step == 0 || !std::isfinite(step)) {

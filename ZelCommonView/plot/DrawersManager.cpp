@@ -12,8 +12,7 @@ using PaintSlot = sigc::slot<void, const Cairo::RefPtr<Cairo::Context>&>;
 
 } // namespace
 
-DrawersManager::DrawersManager(FragmentsDrawArea& area)
-    : fragmentsDrawArea(area) {}
+DrawersManager::DrawersManager(FragmentsDrawArea& area) : fragmentsDrawArea(area) {}
 
 DrawersManager::~DrawersManager() = default;
 

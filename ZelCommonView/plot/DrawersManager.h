@@ -25,8 +25,8 @@ public:
     /// Takes ownership. The order of adding is the order of painting within a fragment.
     void addDrawer(std::unique_ptr<BaseFragmentableDrawer> drawer);
 
-    /// Adds a fragment to the canvas under the object's address; adding it again replaces it there. It stays the
-    /// caller's and must outlive its removal.
+    /// Adds a fragment to the canvas under the object's address; adding it again replaces it there. It stays
+    /// the caller's and must outlive its removal.
     void addFragmentable(const Zel::IFragmentable& fragmentable);
     /// Removes the object's fragment; an unknown one is no error.
     void deleteFragmentable(const Zel::IFragmentable& fragmentable);
@@ -36,7 +36,8 @@ public:
     std::vector<Drawer*> getDrawers() const;
 
 private:
-    void _drawFragmentable(const Cairo::RefPtr<Cairo::Context>& context, const Zel::IFragmentable& fragmentable);
+    void _drawFragmentable(const Cairo::RefPtr<Cairo::Context>& context,
+                           const Zel::IFragmentable& fragmentable);
 
     FragmentsDrawArea& fragmentsDrawArea;
     std::vector<std::unique_ptr<InfoDrawer>> infoDrawers;

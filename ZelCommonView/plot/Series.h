@@ -33,14 +33,18 @@ struct Color {
 
 /// The data range of something on a plot, in world units.
 ///
-/// Something without data writes +2147483648.0 as minimum and -2147483648.0 as maximum; the plot then shows -1 to 1.
+/// Something without data writes +2147483648.0 as minimum and -2147483648.0 as maximum; the plot then shows
+/// -1 to 1.
 class ZEL_API IBorderable {
 public:
     IBorderable() = default;
-    /// A copy starts with no listeners, and an assignment leaves both sides' listeners where they are: whoever
-    /// listens to one object asked for that object.
+
+    /// A copy starts with no listeners, and an assignment leaves both sides' listeners where they are:
+    /// whoever listens to one object asked for that object.
     IBorderable(const IBorderable&) {}
+
     IBorderable& operator=(const IBorderable&) { return *this; }
+
     virtual ~IBorderable();
 
     /// Writes the limits of x. The default leaves both arguments as they were.
@@ -60,9 +64,12 @@ public:
 class ZEL_API IFragmentable {
 public:
     IFragmentable() = default;
+
     /// As with `IBorderable`, listeners are never copied.
     IFragmentable(const IFragmentable&) {}
+
     IFragmentable& operator=(const IFragmentable&) { return *this; }
+
     virtual ~IFragmentable();
 
     /// The text of the legend row.

@@ -19,10 +19,11 @@ void setLine(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& se
     setSource(context, series.color, series.color.a / 255.0);
 }
 
-/// Adds a path element of its own for each segment: what is joined or merged is seen in the pixels. The cairo calls
-/// are made directly, since the wrapper's check after each would cost more than the call.
+/// Adds a path element of its own for each segment: what is joined or merged is seen in the pixels. The cairo
+/// calls are made directly, since the wrapper's check after each would cost more than the call.
 template <typename ToVisualX, typename ToVisualY>
-void addSegments(cairo_t* cr, const std::vector<Zel::PointF>& points, ToVisualX toVisualX, ToVisualY toVisualY) {
+void addSegments(cairo_t* cr, const std::vector<Zel::PointF>& points, ToVisualX toVisualX,
+                 ToVisualY toVisualY) {
     for (std::size_t i = 1; i < points.size(); ++i) {
         const float x = toVisualX(points[i].x);
         const float y = toVisualY(points[i].y);
@@ -31,10 +32,11 @@ void addSegments(cairo_t* cr, const std::vector<Zel::PointF>& points, ToVisualX 
     }
 }
 
-// The formulas of the two converters, written out so that the loop has no virtual calls and keeps its inputs in
-// registers. The association of every sum and product is that of the converters.
+// The formulas of the two converters, written out so that the loop has no virtual calls and keeps its inputs
+// in registers. The association of every sum and product is that of the converters.
 
-void addSegments(cairo_t* cr, const std::vector<Zel::PointF>& points, const StretchableCoordsConverter& converter) {
+void addSegments(cairo_t* cr, const std::vector<Zel::PointF>& points,
+                 const StretchableCoordsConverter& converter) {
     const float xMin = converter.xMin;
     const float yMin = converter.yMin;
     const float realWidth = converter.realWidth;
@@ -48,7 +50,8 @@ void addSegments(cairo_t* cr, const std::vector<Zel::PointF>& points, const Stre
         [=](float y) { return (1 - (y - yMin) / realHeight) * visualHeight + top; });
 }
 
-void addSegments(cairo_t* cr, const std::vector<Zel::PointF>& points, const ProportionalCoordsConverter& converter) {
+void addSegments(cairo_t* cr, const std::vector<Zel::PointF>& points,
+                 const ProportionalCoordsConverter& converter) {
     const float xMin = converter.xMin;
     const float yMin = converter.yMin;
     const float realHeight = converter.realHeight;
@@ -130,8 +133,8 @@ void BinarySeriesDrawer::_callRedraw() {
             series->changed.emit();
 }
 
-void BinarySeriesDrawer::_drawRun(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series, bool isOn,
-                                  float fromX, float toX) const {
+void BinarySeriesDrawer::_drawRun(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series,
+                                  bool isOn, float fromX, float toX) const {
     context->save();
     if (isOn)
         _drawOn(context, series, fromX, toX);

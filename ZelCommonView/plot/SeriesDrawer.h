@@ -17,8 +17,8 @@ public:
 
 /// Paints an analog series as a curve of separate segments, in the series' colour and thickness.
 ///
-/// Series of the other type and those of fewer than 2 points paint nothing. Every point counts, none is skipped or
-/// merged. A coordinate that is not a number is passed on unchecked, and cairo takes it for 0.
+/// Series of the other type and those of fewer than 2 points paint nothing. Every point counts, none is
+/// skipped or merged. A coordinate that is not a number is passed on unchecked, and cairo takes it for 0.
 class ZEL_API AnalogSeriesDrawer : public SeriesDrawer {
 public:
     void _draw(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series) override;
@@ -42,8 +42,8 @@ private:
     bool _onCrossing(_GdkEventCrossing* event);
     /// Emits `changed` of every binary series of the area.
     void _callRedraw();
-    void _drawRun(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series, bool isOn, float fromX,
-                  float toX) const;
+    void _drawRun(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series, bool isOn,
+                  float fromX, float toX) const;
     void _drawOff(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series, float fromX,
                   float toX) const;
     void _drawOn(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series, float fromX,

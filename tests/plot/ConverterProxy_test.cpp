@@ -14,8 +14,7 @@ namespace {
 using namespace ZelView;
 
 struct Range : Zel::IBorderable {
-    Range(float xMin, float xMax, float yMin, float yMax)
-        : border{xMin, xMax, yMin, yMax} {}
+    Range(float xMin, float xMax, float yMin, float yMax) : border{xMin, xMax, yMin, yMax} {}
 
     void getRangeX(float& min, float& max) const override {
         min = border.xMin;
@@ -200,7 +199,8 @@ TEST(ConverterProxy, AnUnknownModeThrowsAndLeavesNoConverterUntilAKnownOneIsSet)
     ConverterProxy proxy;
     int told = 0;
     proxy.converterChanged.connect([&] { ++told; });
-    EXPECT_EQ(thrownBy([&] { proxy.setCoordsConvertMode(static_cast<CoordsConvertMode>(2)); }), "_createConverter");
+    EXPECT_EQ(thrownBy([&] { proxy.setCoordsConvertMode(static_cast<CoordsConvertMode>(2)); }),
+              "_createConverter");
     EXPECT_EQ(proxy.getConverter(), nullptr);
     EXPECT_EQ(told, 0);
 

@@ -16,8 +16,7 @@ constexpr float noData = 2147483648.0f;
 const float notANumber = std::numeric_limits<float>::quiet_NaN();
 
 struct Range : Zel::IBorderable {
-    Range(float xMin, float xMax, float yMin, float yMax)
-        : border{xMin, xMax, yMin, yMax} {}
+    Range(float xMin, float xMax, float yMin, float yMax) : border{xMin, xMax, yMin, yMax} {}
 
     void getRangeX(float& min, float& max) const override {
         min = border.xMin;
@@ -87,7 +86,8 @@ TEST(CoordsBordersCalc, EitherMarkMakesAPairMinusOneToOne) {
     expectBorder(CoordsBordersCalc::_fixUnsetted({4, 5, noData, -noData}), 4, 5, -1, 1);
     expectBorder(CoordsBordersCalc::_fixUnsetted({4, 5, 2, -noData}), 4, 5, -1, 1);
     expectBorder(CoordsBordersCalc::_fixUnsetted({4, 5, noData, 3}), 4, 5, -1, 1);
-    expectBorder(CoordsBordersCalc::_fixUnsetted({-noData, noData, -noData, noData}), -noData, noData, -noData, noData);
+    expectBorder(CoordsBordersCalc::_fixUnsetted({-noData, noData, -noData, noData}), -noData, noData,
+                 -noData, noData);
 }
 
 TEST(CoordsBordersCalc, OneAutomaticAxisTakesTheRangeWithoutAMarginAndLeavesTheOtherAtTheStart) {
@@ -149,5 +149,7 @@ TEST(CoordsBordersCalc, ASummaryWithMarksIsFixedAsAWhole) {
 }
 
 TEST(CoordsBordersCalc, ASummaryLeavesOutWhatIsNotANumber) {
-    expectBorder(CoordsBordersCalc::getSummary({{notANumber, notANumber, notANumber, notANumber}, {-3, 30, -4, 40}}), -3, 30, -4, 40);
+    expectBorder(
+        CoordsBordersCalc::getSummary({{notANumber, notANumber, notANumber, notANumber}, {-3, 30, -4, 40}}),
+        -3, 30, -4, 40);
 }

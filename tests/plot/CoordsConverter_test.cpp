@@ -11,8 +11,7 @@ namespace {
 using namespace ZelView;
 
 template <typename TConverter>
-TConverter make(float width, float height, CoordsConverter::Border border,
-                CoordsConverter::Offset offset) {
+TConverter make(float width, float height, CoordsConverter::Border border, CoordsConverter::Offset offset) {
     TConverter converter;
     converter.widgetWidth = width;
     converter.widgetHeight = height;
@@ -52,11 +51,10 @@ TEST(CoordsConverter, StartsWithTheDescribedValues) {
 
 TEST(CoordsConverter, KeepsItsDataInOrderAndPublic) {
     const StretchableCoordsConverter c;
-    const float* const fields[] = {&c.rowHeight,   &c.onePulseHeight, &c.widgetWidth, &c.widgetHeight,
-                                   &c.xMin,        &c.xMax,           &c.yMin,        &c.yMax,
-                                   &c.offset.left, &c.offset.right,   &c.offset.top,  &c.offset.bottom,
-                                   &c.visualWidth, &c.visualHeight,   &c.realWidth,   &c.realHeight,
-                                   &c.scaleX,      &c.scaleY};
+    const float* const fields[] = {
+        &c.rowHeight,   &c.onePulseHeight, &c.widgetWidth, &c.widgetHeight, &c.xMin,       &c.xMax,
+        &c.yMin,        &c.yMax,           &c.offset.left, &c.offset.right, &c.offset.top, &c.offset.bottom,
+        &c.visualWidth, &c.visualHeight,   &c.realWidth,   &c.realHeight,   &c.scaleX,     &c.scaleY};
     for (std::size_t i = 1; i < std::size(fields); ++i)
         EXPECT_EQ(fields[i - 1] + 1, fields[i]) << i;
     static_assert(sizeof(StretchableCoordsConverter) == sizeof(CoordsConverter));

@@ -27,11 +27,13 @@ struct Recorder : CoordsDrawer {
         Zel::PointF to;
     };
 
-    void _onDrawStepLineX(const Context&, const std::string& text, Zel::PointF from, Zel::PointF to) override {
+    void _onDrawStepLineX(const Context&, const std::string& text, Zel::PointF from,
+                          Zel::PointF to) override {
         x.push_back({text, from, to});
     }
 
-    void _onDrawStepLineY(const Context&, const std::string& text, Zel::PointF from, Zel::PointF to) override {
+    void _onDrawStepLineY(const Context&, const std::string& text, Zel::PointF from,
+                          Zel::PointF to) override {
         y.push_back({text, from, to});
     }
 
@@ -293,7 +295,8 @@ TEST(CoordsDrawer, AHeightWithoutASpanShowsTheOneLineAtZero) {
 }
 
 TEST(CoordsDrawer, HostileLimitsEndInBoundedTime) {
-    const float values[] = {0, 1, -1, 1e-40f, 1e30f, -1e30f, 3.4e38f, -3.4e38f, 2147483648.0f, notANumber, infinity, -infinity};
+    const float values[] = {
+        0, 1, -1, 1e-40f, 1e30f, -1e30f, 3.4e38f, -3.4e38f, 2147483648.0f, notANumber, infinity, -infinity};
     for (float min : values)
         for (float max : values) {
             const auto converter = makeConverter(300, {min, max, min, max});
@@ -331,10 +334,12 @@ TEST(CoordsDrawer, HelpersGiveTheEndsOfTheOutermostAndTheMiddleLines) {
 
 TEST(CoordsDrawer, TheHookForAllAxesIsNeverCalled) {
     struct Watcher : CoordsDrawer {
-        void _onDrawAxis(const Context&, Zel::PointF, Zel::PointF, Zel::PointF, Zel::PointF, Zel::PointF) override {
+        void _onDrawAxis(const Context&, Zel::PointF, Zel::PointF, Zel::PointF, Zel::PointF,
+                         Zel::PointF) override {
             FAIL();
         }
     } drawer;
+
     const auto converter = makeConverter(200, {-3, 7, -4, 6});
     drawer.converter = &converter;
     const auto context = Cairo::Context::create(test::makeSurface(200, 200));

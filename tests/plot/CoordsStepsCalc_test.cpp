@@ -61,7 +61,7 @@ TEST(CoordsStepsCalc, RoundsAStepToTwoFiveOrTenOfItsDecade) {
     EXPECT_EQ(stepValue(100, 10), 20); // a mantissa of exactly 1
     EXPECT_EQ(stepValue(19.9, 1), 20);
     EXPECT_EQ(stepValue(100, 4), 50);
-    EXPECT_EQ(stepValue(20, 1), 50); // exactly 2
+    EXPECT_EQ(stepValue(20, 1), 50);  // exactly 2
     EXPECT_EQ(stepValue(100, 2), 50); // exactly 5, which isn't above 5
     EXPECT_EQ(stepValue(50.1, 1), 100);
     EXPECT_EQ(stepValue(0.03, 1), 0.05f);

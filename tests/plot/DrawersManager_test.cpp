@@ -18,8 +18,7 @@ using Context = Cairo::RefPtr<Cairo::Context>;
 std::vector<std::string> calls;
 
 struct Layer : InfoDrawer {
-    explicit Layer(std::string value)
-        : name(std::move(value)) {}
+    explicit Layer(std::string value) : name(std::move(value)) {}
 
     void draw(const Context&) override { calls.push_back(name); }
 
@@ -28,8 +27,7 @@ struct Layer : InfoDrawer {
 
 /// Notes the line width that it finds and leaves another one behind.
 struct Spoiler : BaseFragmentableDrawer {
-    explicit Spoiler(std::string value)
-        : name(std::move(value)) {}
+    explicit Spoiler(std::string value) : name(std::move(value)) {}
 
     void drawFragmentable(const Context& context, const Zel::IFragmentable& fragmentable) override {
         calls.push_back(name + ":" + fragmentable.getName());

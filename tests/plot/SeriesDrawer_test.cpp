@@ -141,7 +141,8 @@ const float notANumber = std::nanf("");
 TEST(AnalogSeriesDrawer, PaintsEachSegmentAsAPathElementOfItsOwn) {
     const Zel::Series series = analog(noise(40));
     test::expectSame(paintSeries(AnalogSeriesDrawer(), series), bareCurve(series, stretchable));
-    test::expectSame(paintSeries(AnalogSeriesDrawer(), series, proportional), bareCurve(series, proportional));
+    test::expectSame(paintSeries(AnalogSeriesDrawer(), series, proportional),
+                     bareCurve(series, proportional));
 }
 
 TEST(AnalogSeriesDrawer, HasNoJoinsBetweenSegments) {
@@ -176,14 +177,22 @@ TEST(AnalogSeriesDrawer, DeclinesBinarySeries) {
 TEST(AnalogSeriesDrawer, WithAConverterOfAnotherKindLeavesOutAllButTheFirstPoint) {
     struct Other : CoordsConverter {
         float getVisualX(float x) const override { return x; }
+
         float getVisualY(float y) const override { return y; }
+
         float getZeroVisualY(unsigned long) const override { return 0; }
+
         float getOneVisualY(unsigned long, bool) const override { return 0; }
+
         float getRealX(float v) const override { return v; }
+
         float getRealY(float v) const override { return v; }
+
         float getCenterVisualX() const override { return 0; }
+
         float getCenterVisualY() const override { return 0; }
     } other;
+
     expectBlank(paintSeries(AnalogSeriesDrawer(), analog({{2, 2}, {14, 14}}), other));
 }
 
@@ -232,13 +241,15 @@ TEST(BinarySeriesDrawer, AnEmptyRunPaintsNothing) {
 
 TEST(BinarySeriesDrawer, WhatIsNotANumberIsOn) {
     const Zel::Series series = binary({{1, notANumber}, {5, notANumber}, {9, 0}, {15, 0}});
-    test::expectSame(paintSeries(BinarySeriesDrawer(), series), bareRow(series, {{true, 1, 9}, {false, 9, 15}}));
+    test::expectSame(paintSeries(BinarySeriesDrawer(), series),
+                     bareRow(series, {{true, 1, 9}, {false, 9, 15}}));
 }
 
 TEST(BinarySeriesDrawer, AnEndThatIsNotANumberDiffersFromTheStart) {
     struct Counter : BinarySeriesDrawer {
         using BinarySeriesDrawer::BinarySeriesDrawer;
     } drawer;
+
     drawer.converter = &stretchable;
     const auto context = Cairo::Context::create(test::makeSurface(width, height));
     context->set_line_width(99);
@@ -334,6 +345,6 @@ TEST(SeriesDrawer, IsADrawerOfSeries) {
     OtherFragment other;
     AnalogSeriesDrawer drawer;
     drawer.converter = &stretchable;
-    expectBlank(test::paint(width, height,
-                            [&](const Context& context) { drawer.drawFragmentable(context, other); }));
+    expectBlank(
+        test::paint(width, height, [&](const Context& context) { drawer.drawFragmentable(context, other); }));
 }

@@ -24,7 +24,8 @@ int Picture::countPainted() const {
 }
 
 bool Picture::operator==(const Picture& other) const {
-    return width == other.width && height == other.height && channels == other.channels && bytes == other.bytes;
+    return width == other.width && height == other.height && channels == other.channels &&
+           bytes == other.bytes;
 }
 
 Picture pictureOf(const Glib::RefPtr<Gdk::Pixbuf>& pixbuf) {
@@ -58,7 +59,8 @@ Cairo::RefPtr<Cairo::ImageSurface> makeSurface(int width, int height) {
     return surface;
 }
 
-Picture paint(int width, int height, const std::function<void(const Cairo::RefPtr<Cairo::Context>&)>& function) {
+Picture paint(int width, int height,
+              const std::function<void(const Cairo::RefPtr<Cairo::Context>&)>& function) {
     const auto surface = makeSurface(width, height);
     function(Cairo::Context::create(surface));
     return pictureOf(surface);

@@ -35,9 +35,11 @@ Picture pictureOfFile(const std::string& path);
 Cairo::RefPtr<Cairo::ImageSurface> makeSurface(int width, int height);
 
 /// What the function paints on an opaque white surface.
-Picture paint(int width, int height, const std::function<void(const Cairo::RefPtr<Cairo::Context>&)>& function);
+Picture paint(int width, int height,
+              const std::function<void(const Cairo::RefPtr<Cairo::Context>&)>& function);
 
-/// Fails unless both are equal to the byte; then both and their difference are written beside the test program.
+/// Fails unless both are equal to the byte; then both and their difference are written beside the test
+/// program.
 void expectSame(const Picture& actual, const Picture& expected);
 
 /// A folder of its own for a test's files, removed at the end.
