@@ -131,13 +131,17 @@ void FragmentsDrawArea::_drawOnOwnSurface(const Cairo::RefPtr<Cairo::Context>& c
     double x = 0;
     double y = 0;
     context->user_to_device(x, y);
+    own->save();
     own->set_source(target, -x, -y);
     own->paint();
+    own->restore();
 
     _drawLayers(own);
+    context->save();
     context->set_source(surface, 0, 0);
     context->set_operator(Cairo::OPERATOR_SOURCE);
     context->paint();
+    context->restore();
 }
 
 void FragmentsDrawArea::_drawStart(const Cairo::RefPtr<Cairo::Context>& context) {

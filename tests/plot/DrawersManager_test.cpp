@@ -1,3 +1,4 @@
+#include "support/Hands.h"
 #include "support/Pictures.h"
 
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
@@ -45,7 +46,7 @@ protected:
         calls.clear();
         a.name = "a";
         b.name = "b";
-        area.size_allocate(Gtk::Allocation(0, 0, 20, 10));
+        test::allocate(area, 20, 10);
     }
 
     void paint() { area.on_draw(Cairo::Context::create(test::makeSurface(20, 10))); }
@@ -135,7 +136,7 @@ TEST_F(DrawersManagerTest, ForgetsFragments) {
 TEST(DrawersManager, MayGoBeforeTheCanvas) {
     calls.clear();
     FragmentsDrawArea area;
-    area.size_allocate(Gtk::Allocation(0, 0, 20, 10));
+    test::allocate(area, 20, 10);
     const Zel::Series series;
     {
         DrawersManager manager(area);

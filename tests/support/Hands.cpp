@@ -6,8 +6,16 @@
 namespace test {
 
 void settle() {
-    while (Gtk::Main::events_pending())
-        Gtk::Main::iteration();
+    constexpr gint64 twoFrames = 40000; // microseconds
+    gint64 quietSince = g_get_monotonic_time();
+    while (g_get_monotonic_time() - quietSince < twoFrames) {
+        if (Gtk::Main::events_pending()) {
+            Gtk::Main::iteration();
+            quietSince = g_get_monotonic_time();
+        } else {
+            g_usleep(1000);
+        }
+    }
 }
 
 bool waitFor(const std::function<bool()>& condition, int milliseconds) {
@@ -38,6 +46,13 @@ void movePointer(Gtk::Widget& widget, int x, int y) {
     int originY = 0;
     widget.get_window()->get_origin(originX, originY);
     movePointer(originX + x, originY + y);
+}
+
+void allocate(Gtk::Widget& widget, int width, int height) {
+    widget.show();
+    // Not through size_allocate, which never goes below 1 pixel.
+    GtkAllocation allocation{0, 0, width, height};
+    gtk_widget_set_allocation(widget.gobj(), &allocation);
 }
 
 OffscreenHost::OffscreenHost(Gtk::Widget& child, int width, int height) {

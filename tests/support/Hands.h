@@ -7,7 +7,7 @@
 
 namespace test {
 
-/// Runs the main loop until nothing is left to do.
+/// Runs the main loop until nothing has happened for two frames, so that all pending paints are done.
 void settle();
 
 /// Runs the main loop until the condition holds; false if it doesn't within the time.
@@ -21,6 +21,9 @@ void movePointer(int screenX, int screenY);
 
 /// Moves the pointer to a place of a widget that is on the screen, in the widget's pixels.
 void movePointer(Gtk::Widget& widget, int x, int y);
+
+/// Gives a widget without a window a size; GTK keeps that of shown ones only.
+void allocate(Gtk::Widget& widget, int width, int height);
 
 /// A window that is painted without being shown on the screen.
 class OffscreenHost {
