@@ -9,5 +9,7 @@
 #include <ZelCommonView/common/NumericHelper.h>
 #include <ZelCommonView/common/NumericRange.h>
 #include <ZelCommonView/common/Object.h>
+#include <ZelCommonView/common/PointerConnectionsDispatcher.h>
+#include <ZelCommonView/common/PointerNamedConnectionsDispatcher.h>
 #include <ZelCommonView/common/RectangleF.h>
 #include <ZelCommonView/common/StringHelper.h>
