@@ -5,6 +5,7 @@
 #include <ZelCommonView/common/ApproximateTolerance.h>
 #include <ZelCommonView/common/AutoResetEvent.h>
 #include <ZelCommonView/common/DialogLocalization.h>
+#include <ZelCommonView/common/Directories.h>
 #include <ZelCommonView/common/Export.h>
 #include <ZelCommonView/common/Language.h>
 #include <ZelCommonView/common/Nullable.h>
