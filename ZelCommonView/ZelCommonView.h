@@ -4,8 +4,10 @@
 #include <ZelCommonView/common/ApproximateLogic.h>
 #include <ZelCommonView/common/ApproximateTolerance.h>
 #include <ZelCommonView/common/AutoResetEvent.h>
+#include <ZelCommonView/common/Cross.h>
 #include <ZelCommonView/common/DialogLocalization.h>
 #include <ZelCommonView/common/Directories.h>
+#include <ZelCommonView/common/ErrBuf.h>
 #include <ZelCommonView/common/Export.h>
 #include <ZelCommonView/common/Language.h>
 #include <ZelCommonView/common/Nullable.h>
