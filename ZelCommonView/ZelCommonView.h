@@ -18,3 +18,15 @@
 #include <ZelCommonView/common/PointerNamedConnectionsDispatcher.h>
 #include <ZelCommonView/common/RectangleF.h>
 #include <ZelCommonView/common/StringHelper.h>
+#include <ZelCommonView/fragments/FragmentDrawerHelper.h>
+#include <ZelCommonView/fragments/FragmentsDrawArea.h>
+#include <ZelCommonView/plot/ConverterProxy.h>
+#include <ZelCommonView/plot/CoordsBordersCalc.h>
+#include <ZelCommonView/plot/CoordsConverter.h>
+#include <ZelCommonView/plot/CoordsDrawer.h>
+#include <ZelCommonView/plot/CoordsStepsCalc.h>
+#include <ZelCommonView/plot/Drawer.h>
+#include <ZelCommonView/plot/DrawersManager.h>
+#include <ZelCommonView/plot/ImageDrawer.h>
+#include <ZelCommonView/plot/Series.h>
+#include <ZelCommonView/plot/SeriesDrawer.h>
