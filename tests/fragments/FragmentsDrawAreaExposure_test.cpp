@@ -1,6 +1,7 @@
 // What is seen, kept and saved is whole, whatever part of the canvas the screen asks for.
 #include "support/Hands.h"
 #include "support/Pictures.h"
+#include "support/TemporaryFolder.h"
 
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
 
@@ -60,8 +61,8 @@ struct Canvas {
 
     test::Picture saved() {
         const test::TemporaryFolder folder;
-        area.saveSummaryImage(folder.path("saved.png"), "png");
-        return test::pictureOfFile(folder.path("saved.png"));
+        area.saveSummaryImage(folder.path / "saved.png", "png");
+        return test::pictureOfFile(folder.path / "saved.png");
     }
 
     FragmentsDrawArea area;

@@ -1,5 +1,6 @@
 #include "support/Hands.h"
 #include "support/Pictures.h"
+#include "support/TemporaryFolder.h"
 
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
 
@@ -118,8 +119,8 @@ TEST_F(FragmentsDrawAreaTest, SavesTheLayersAroundTheFragmentsButNotEnd) {
     area.addPositionDrawer(box("after", 20, 0), DrawerPosition::AfterFragments);
     area.addPositionDrawer(box("end", 30, 0), DrawerPosition::End);
     const auto seen = paint();
-    area.saveSummaryImage(folder.path("all.png"), "png");
-    const auto saved = test::pictureOfFile(folder.path("all.png"));
+    area.saveSummaryImage(folder.path / "all.png", "png");
+    const auto saved = test::pictureOfFile(folder.path / "all.png");
     EXPECT_EQ(saved.width, width);
     EXPECT_EQ(saved.height, height);
     for (int x : {1, 11, 21})
@@ -130,11 +131,11 @@ TEST_F(FragmentsDrawAreaTest, SavesTheLayersAroundTheFragmentsButNotEnd) {
 
 TEST_F(FragmentsDrawAreaTest, SavingBeforeTheFirstPaintWritesNothing) {
     const test::TemporaryFolder folder;
-    area.saveSummaryImage(folder.path("none.png"), "png");
-    EXPECT_FALSE(Glib::file_test(folder.path("none.png"), Glib::FILE_TEST_EXISTS));
+    area.saveSummaryImage(folder.path / "none.png", "png");
+    EXPECT_FALSE(Glib::file_test(folder.path / "none.png", Glib::FILE_TEST_EXISTS));
     area.addFragment(key(0), note("f"));
-    area.saveFragment(key(0), folder.path("none.png"), "png");
-    EXPECT_FALSE(Glib::file_test(folder.path("none.png"), Glib::FILE_TEST_EXISTS));
+    area.saveFragment(key(0), folder.path / "none.png", "png");
+    EXPECT_FALSE(Glib::file_test(folder.path / "none.png", Glib::FILE_TEST_EXISTS));
 }
 
 TEST_F(FragmentsDrawAreaTest, ABadPathOrTypeReachesTheCaller) {
@@ -142,9 +143,9 @@ TEST_F(FragmentsDrawAreaTest, ABadPathOrTypeReachesTheCaller) {
     area.addFragment(key(0), box("f", 5, 0));
     paint();
     EXPECT_THROW(area.saveSummaryImage("/nowhere/at/all.png", "png"), Glib::Error);
-    EXPECT_THROW(area.saveSummaryImage(folder.path("a"), "no such type"), Glib::Error);
+    EXPECT_THROW(area.saveSummaryImage(folder.path / "a", "no such type"), Glib::Error);
     EXPECT_THROW(area.saveFragment(key(0), "/nowhere/at/all.png", "png"), Glib::Error);
-    EXPECT_THROW(area.saveFragment(key(0), folder.path("a"), "no such type"), Glib::Error);
+    EXPECT_THROW(area.saveFragment(key(0), folder.path / "a", "no such type"), Glib::Error);
 }
 
 TEST_F(FragmentsDrawAreaTest, SavesTheImageOfOneFragment) {
@@ -152,17 +153,17 @@ TEST_F(FragmentsDrawAreaTest, SavesTheImageOfOneFragment) {
     area.addFragment(key(0), box("f", 5, 0));
     area.addFragment(key(1), box("g", 20, 0));
     paint();
-    area.saveFragment(key(0), folder.path("one.png"), "png");
-    const auto saved = test::pictureOfFile(folder.path("one.png"));
+    area.saveFragment(key(0), folder.path / "one.png", "png");
+    const auto saved = test::pictureOfFile(folder.path / "one.png");
     EXPECT_EQ(saved.at(6, 6), black);
     EXPECT_EQ(saved.at(21, 6), (std::vector<int>{255, 255, 255, 0}));
 }
 
 TEST_F(FragmentsDrawAreaTest, SavingAnUnknownFragmentCreatesAnEmptyEntry) {
     const test::TemporaryFolder folder;
-    area.saveFragment(key(3), folder.path("none.png"), "png");
+    area.saveFragment(key(3), folder.path / "none.png", "png");
     EXPECT_EQ(area.fragments.count(key(3)), 1u);
-    EXPECT_FALSE(Glib::file_test(folder.path("none.png"), Glib::FILE_TEST_EXISTS));
+    EXPECT_FALSE(Glib::file_test(folder.path / "none.png", Glib::FILE_TEST_EXISTS));
 }
 
 TEST_F(FragmentsDrawAreaTest, OnlyTheMarkedFragmentIsPaintedAgain) {

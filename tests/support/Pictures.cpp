@@ -5,7 +5,6 @@
 #include <gdkmm/general.h>
 
 #include <cstdlib>
-#include <filesystem>
 
 namespace test {
 
@@ -101,17 +100,6 @@ void expectSame(const Picture& actual, const Picture& expected) {
     toPixbuf(expected)->save(stem + ".expected.png", "png");
     toPixbuf(difference)->save(stem + ".difference.png", "png");
     ADD_FAILURE() << count << " bytes differ; see " << stem << ".*.png beside the test program";
-}
-
-TemporaryFolder::TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "zel-test-XXXXXX").string();
-    if (mkdtemp(name.data()))
-        folder = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
 }
 
 } // namespace test

@@ -42,18 +42,4 @@ Picture paint(int width, int height,
 /// program.
 void expectSame(const Picture& actual, const Picture& expected);
 
-/// A folder of its own for a test's files, removed at the end.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    std::string path(const std::string& name) const { return folder + "/" + name; }
-
-private:
-    std::string folder;
-};
-
 } // namespace test
