@@ -89,9 +89,9 @@ void partUnit(std::string& name, std::string& unit) {
     name = trim(std::string_view(name).substr(0, place));
 }
 
-class Table {
+class TableReader {
 public:
-    Table(Source& tableSource, const Options& readingOptions)
+    TableReader(Source& tableSource, const Options& readingOptions)
         : source(tableSource), options(readingOptions), lines(tableSource) {}
 
     Record read() {
@@ -309,7 +309,7 @@ private:
 } // namespace
 
 Record readCsv(Source& source, const Options& options) {
-    return Table(source, options).read();
+    return TableReader(source, options).read();
 }
 
 } // namespace record

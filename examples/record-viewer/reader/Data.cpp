@@ -157,7 +157,8 @@ bool fitsFixed(const Config& config, Source& source, std::size_t analogSize) {
 }
 
 bool fitsAscii(const Config& config, Source& source) {
-    const auto line = Lines(source).nextFilled();
+    Lines lines(source);
+    const auto line = lines.nextFilled();
     if (!line)
         return false;
     const std::vector<std::string_view> fields = split(*line);

@@ -22,6 +22,10 @@ struct DecodedText {
 /// goes through the code page. Throws Error when iconv doesn't know it.
 DecodedText decode(std::string_view bytes, const std::string& codePage);
 
+/// The length of the UTF-8 character that a text starts with; 0 when it starts with none. The text must not
+/// be empty.
+std::size_t utf8Length(std::string_view text);
+
 bool isUtf8(std::string_view text);
 
 /// Without blanks, tabs, line ends, zero bytes and the old end-of-file mark 0x1A at both ends.
