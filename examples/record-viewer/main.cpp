@@ -55,10 +55,15 @@ int show(const std::string& file, record::Record record) {
 }
 
 int writePictures(const viewer::Arguments& arguments, record::Record record) {
-    const std::string stem = std::filesystem::path(arguments.file).stem().string();
-    for (const std::string& path :
+    // A pair of files is known by its stem; others keep their extension, so that records that differ in
+    // nothing else don't overwrite each other's pictures.
+    const std::filesystem::path path(arguments.file);
+    const std::string extension = Glib::ustring(path.extension().string()).lowercase();
+    const bool isPair = extension == ".cfg" || extension == ".dat";
+    const std::string stem = (isPair ? path.stem() : path.filename()).string();
+    for (const std::string& picture :
          viewer::writePictures(viewer::makeSections(record), arguments.pictureFolder, stem))
-        std::cout << path << "\n";
+        std::cout << picture << "\n";
     return Success;
 }
 

@@ -10,11 +10,12 @@ namespace viewer {
 
 namespace {
 
-constexpr int namesWidth = 180;       // pixels
-constexpr int curveHeight = 260;      // of a plot of curves, pixels
-constexpr int nameHeight = 16;        // pixels
-constexpr float rowsMargin = 16;      // above the first binary row, pixels
-constexpr float limitsMargin = 0.05f; // free space above and below curves, of their span
+constexpr int namesWidth = 180;  // pixels
+constexpr int curveHeight = 260; // of a plot of curves, pixels
+constexpr int nameHeight = 16;   // pixels
+constexpr float rowsMargin = 16; // above the first binary row, pixels
+constexpr double maxPicturesBytes = 128e6; // of one plot
+constexpr float limitsMargin = 0.05f;      // free space above and below curves, of their span
 
 } // namespace
 
@@ -40,11 +41,17 @@ SignalPlot::SignalPlot(Section value) : Gtk::Box(Gtk::ORIENTATION_HORIZONTAL), s
 
 bool SignalPlot::_onConfigure(GdkEventConfigure* event) {
     converterProxy.setWidgetSize(static_cast<float>(event->width), static_cast<float>(event->height));
-    // Back from one picture of all signals to one for each, so that the next exposure composes and paints
-    // nothing.
-    if (!fragmentables.empty())
+    if (_isPictureForEachWorthwhile(event->width, event->height))
         canvas.redraw(fragmentables.front());
     return false;
+}
+
+bool SignalPlot::_isPictureForEachWorthwhile(int width, int height) const {
+    // After a new size the canvas paints all signals into one picture at each exposure. With a picture for
+    // each it only composes, which is what long curves need; rows are painted quickly, and hundreds of
+    // pictures fill the memory.
+    const double bytes = 4.0 * width * height * static_cast<double>(section.series.size());
+    return section.type == Zel::SeriesType::Analog && !section.series.empty() && bytes < maxPicturesBytes;
 }
 
 bool SignalPlot::_onDrawNames(const Cairo::RefPtr<Cairo::Context>& context) {

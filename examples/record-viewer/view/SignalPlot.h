@@ -23,6 +23,7 @@ public:
 
 private:
     bool _onConfigure(GdkEventConfigure* event);
+    bool _isPictureForEachWorthwhile(int width, int height) const;
     bool _onDrawNames(const Cairo::RefPtr<Cairo::Context>& context);
     void _addDrawers();
     void _initDrawer(ZelView::Drawer& drawer);
