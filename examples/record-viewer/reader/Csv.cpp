@@ -148,7 +148,10 @@ private:
             if (headings.size() > 2)
                 headings.erase(headings.begin());
         }
-        if (firstRow.size() > 1 && firstRow.back().empty())
+        // An empty last cell is a missing value where the column has a name, else a separator too many.
+        const bool isNamed = !headings.empty() && headings.back().size() >= firstRow.size() &&
+                             !headings.back()[firstRow.size() - 1].empty();
+        if (firstRow.size() > 1 && firstRow.back().empty() && !isNamed)
             firstRow.pop_back();
         columns = firstRow.size();
         nameColumns(headings);

@@ -4,6 +4,12 @@ namespace record {
 
 namespace {
 
+/// Many devices write one to one on the primary side when they were told of no transformer.
+bool isRatioKnown(const AnalogChannel& channel) {
+    const bool isUntold = channel.primary == 1 && channel.secondary == 1 && channel.side == 'P';
+    return channel.primary > 0 && channel.secondary > 0 && channel.side != 0 && !isUntold;
+}
+
 std::size_t countOnes(std::uint64_t word) {
     return static_cast<std::size_t>(__builtin_popcountll(word));
 }
@@ -64,13 +70,13 @@ std::size_t BitRow::transitionCount() const {
 }
 
 std::optional<double> AnalogChannel::toPrimary() const {
-    if (!(primary > 0) || !(secondary > 0) || side == 0)
+    if (!isRatioKnown(*this))
         return std::nullopt;
     return side == 'S' ? primary / secondary : 1;
 }
 
 std::optional<double> AnalogChannel::toSecondary() const {
-    if (!(primary > 0) || !(secondary > 0) || side == 0)
+    if (!isRatioKnown(*this))
         return std::nullopt;
     return side == 'P' ? secondary / primary : 1;
 }
