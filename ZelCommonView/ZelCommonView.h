@@ -1,5 +1,32 @@
 /// The whole library in one include.
 #pragma once
 
+#include <ZelCommonView/common/ApproximateLogic.h>
+#include <ZelCommonView/common/ApproximateTolerance.h>
+#include <ZelCommonView/common/AutoResetEvent.h>
+#include <ZelCommonView/common/Cross.h>
+#include <ZelCommonView/common/DialogLocalization.h>
+#include <ZelCommonView/common/Directories.h>
+#include <ZelCommonView/common/ErrBuf.h>
 #include <ZelCommonView/common/Export.h>
 #include <ZelCommonView/common/Language.h>
+#include <ZelCommonView/common/Nullable.h>
+#include <ZelCommonView/common/NumericHelper.h>
+#include <ZelCommonView/common/NumericRange.h>
+#include <ZelCommonView/common/Object.h>
+#include <ZelCommonView/common/PointerConnectionsDispatcher.h>
+#include <ZelCommonView/common/PointerNamedConnectionsDispatcher.h>
+#include <ZelCommonView/common/RectangleF.h>
+#include <ZelCommonView/common/StringHelper.h>
+#include <ZelCommonView/fragments/FragmentDrawerHelper.h>
+#include <ZelCommonView/fragments/FragmentsDrawArea.h>
+#include <ZelCommonView/plot/ConverterProxy.h>
+#include <ZelCommonView/plot/CoordsBordersCalc.h>
+#include <ZelCommonView/plot/CoordsConverter.h>
+#include <ZelCommonView/plot/CoordsDrawer.h>
+#include <ZelCommonView/plot/CoordsStepsCalc.h>
+#include <ZelCommonView/plot/Drawer.h>
+#include <ZelCommonView/plot/DrawersManager.h>
+#include <ZelCommonView/plot/ImageDrawer.h>
+#include <ZelCommonView/plot/Series.h>
+#include <ZelCommonView/plot/SeriesDrawer.h>

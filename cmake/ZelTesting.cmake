@@ -14,10 +14,11 @@ set(ZEL_TEST_ENVIRONMENT
     "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
     "TSAN_OPTIONS=ignore_noninstrumented_modules=1:halt_on_error=1")
 
-# zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN])
-# makes the program folder.file. PLAIN is for tests that need neither GTK nor a display.
+# zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN] [HANDS])
+# makes the program folder.file. PLAIN is for tests that need neither GTK nor a display; HANDS for those that move the
+# real pointer or press real keys, which must not run beside each other.
 function(zel_add_test folder file)
-  cmake_parse_arguments(TEST "PLAIN" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  cmake_parse_arguments(TEST "PLAIN;HANDS" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
   get_filename_component(stem ${file} NAME_WE)
   string(REGEX REPLACE "_test$" "" stem ${stem})
   set(target ${folder}.${stem})
@@ -36,4 +37,7 @@ function(zel_add_test folder file)
 
   add_test(NAME ${target} COMMAND ${target})
   set_tests_properties(${target} PROPERTIES ENVIRONMENT "${ZEL_TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}" TIMEOUT 300)
+  if(TEST_HANDS)
+    set_tests_properties(${target} PROPERTIES RESOURCE_LOCK pointer)
+  endif()
 endfunction()

@@ -47,6 +47,7 @@ listed_packages() {
 
 # with_display COMMAND...: runs the command in a virtual display with a session bus and a window manager.
 with_display() {
+    export NO_AT_BRIDGE=1
     dbus-run-session -- xvfb-run -a -s "-screen 0 1920x1200x24 -noreset" \
         bash -c 'openbox >/dev/null 2>&1 & manager=$!; sleep 0.5; "$@"; result=$?; kill $manager 2>/dev/null; exit $result' \
         with_display "$@"

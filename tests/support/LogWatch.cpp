@@ -40,8 +40,7 @@ void watchLog() {
     g_log_set_writer_func(write, nullptr, nullptr);
 }
 
-ExpectedLog::ExpectedLog(std::string value)
-    : text(std::move(value)) {
+ExpectedLog::ExpectedLog(std::string value) : text(std::move(value)) {
     const std::lock_guard<std::mutex> lock(mutex);
     expectedText = text;
     isExpectedSeen = false;

@@ -4,15 +4,13 @@
 #include "Samples.h"
 
 #include "demo-record/LineFault.h"
-#include "reader/Statistics.h"
+#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <complex>
-#include <fstream>
-#include <iterator>
 
 using namespace record;
 
@@ -22,8 +20,12 @@ constexpr double pi = 3.14159265358979323846;
 constexpr std::size_t period = 40;
 
 std::string readBytes(const std::string& name) {
-    std::ifstream file(std::string(ZEL_DEMO_DIR) + "/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return test::readFile(std::string(ZEL_DEMO_DIR) + "/" + name);
+}
+
+const demo::Recording& made() {
+    static const demo::Recording recording = demo::lineFault();
+    return recording;
 }
 
 const Record& delivered() {
@@ -70,7 +72,7 @@ std::vector<double> changesOf(const std::string& name) {
 } // namespace
 
 TEST(DemoRecord, IsStillMadeToTheByte) {
-    const demo::Recording recording = demo::lineFault();
+    const demo::Recording& recording = made();
     EXPECT_EQ(demo::configuration(recording, false), readBytes("line-fault.cfg"));
     EXPECT_TRUE(demo::binaryData(recording) == readBytes("line-fault.dat")) << "line-fault.dat differs";
 }
@@ -87,7 +89,7 @@ TEST(DemoRecord, IsReadWithoutAWarning) {
 }
 
 TEST(DemoRecord, EveryFormatHoldsTheSameSamples) {
-    const demo::Recording recording = demo::lineFault();
+    const demo::Recording& recording = made();
     const Record ascii = test::read(demo::configuration(recording, true), demo::asciiData(recording));
     EXPECT_THAT(ascii.warnings, testing::IsEmpty());
     for (const bool isAscii : {false, true}) {

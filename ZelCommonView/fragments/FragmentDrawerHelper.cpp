@@ -1,0 +1,133 @@
+#include <ZelCommonView/fragments/FragmentDrawerHelper.h>
+
+#include <gdkmm/general.h>
+#include <gtkmm/widget.h>
+
+#include <algorithm>
+
+namespace ZelView::Fragments {
+
+FragmentDrawerHelper::FragmentDrawerHelper(const Gtk::Widget& value) : widget(value) {}
+
+Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::getBackground() const {
+    return background;
+}
+
+void FragmentDrawerHelper::setBackgroundColor(Zel::Color color) {
+    backgroundColor = color;
+}
+
+void FragmentDrawerHelper::startFragmentsDraw(const Cairo::RefPtr<Cairo::Context>& context) {
+    _clearBackground(context);
+    _saveBackground(context);
+}
+
+void FragmentDrawerHelper::endFragmentsDraw(const Cairo::RefPtr<Cairo::Context>& context) {
+    if (!background)
+        return;
+    Gdk::Cairo::set_source_pixbuf(context, background, 0, 0);
+    context->paint();
+}
+
+void FragmentDrawerHelper::draw(const Cairo::RefPtr<Cairo::Context>& context, const DrawFunction& function) {
+    context->save();
+    function(context);
+    context->restore();
+}
+
+void FragmentDrawerHelper::drawAsFragment(const Cairo::RefPtr<Cairo::Context>& context,
+                                          const DrawFunction& function) {
+    _attachSticker(_getImage(context, function));
+}
+
+void FragmentDrawerHelper::drawAsFragment(const Cairo::RefPtr<Cairo::Context>& context,
+                                          const std::vector<DrawFunction>& functions) {
+    _attachSticker(_getImage(context, functions));
+}
+
+void FragmentDrawerHelper::drawFragment(const Cairo::RefPtr<Cairo::Context>& context, Fragment& fragment) {
+    _attachSticker(_getFragmentImage(context, fragment));
+}
+
+void FragmentDrawerHelper::_clearBackground(const Cairo::RefPtr<Cairo::Context>& context) {
+    context->set_source_rgba(backgroundColor.r / 255.0, backgroundColor.g / 255.0, backgroundColor.b / 255.0,
+                             backgroundColor.a / 255.0);
+    context->paint();
+}
+
+void FragmentDrawerHelper::_saveBackground(const Cairo::RefPtr<Cairo::Context>& context) {
+    background = _getDrawed(context);
+}
+
+Glib::RefPtr<Gdk::Pixbuf>
+FragmentDrawerHelper::_getDrawed(const Cairo::RefPtr<Cairo::Context>& context) const {
+    const int width = widget.get_allocated_width();
+    const int height = widget.get_allocated_height();
+    if (width <= 0 || height <= 0)
+        return {};
+
+    Cairo::RefPtr<Cairo::ImageSurface> surface;
+    Cairo::RefPtr<Cairo::Context> snapshot;
+    try {
+        surface = Cairo::ImageSurface::create(Cairo::FORMAT_ARGB32, width, height);
+        snapshot = Cairo::Context::create(surface);
+    } catch (const std::exception&) {
+        return {}; // too large for cairo or for the memory
+    }
+    const Cairo::RefPtr<Cairo::Surface> target = context->get_target();
+    if (!target)
+        return {};
+
+    // The target may be the surface of a whole window, of which the widget is a part.
+    double x = 0;
+    double y = 0;
+    context->user_to_device(x, y);
+    snapshot->set_source(target, -x, -y);
+    snapshot->paint();
+    surface->flush();
+    return Gdk::Pixbuf::create(surface, 0, 0, width, height);
+}
+
+Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::_getImage(const Cairo::RefPtr<Cairo::Context>& context,
+                                                          const DrawFunction& function) {
+    _clearBackground(context);
+    draw(context, function);
+    return _addAlpha(_getDrawed(context));
+}
+
+Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::_getImage(const Cairo::RefPtr<Cairo::Context>& context,
+                                                          const std::vector<DrawFunction>& functions) {
+    _clearBackground(context);
+    for (const DrawFunction& function : functions)
+        draw(context, function);
+    return _addAlpha(_getDrawed(context));
+}
+
+Glib::RefPtr<Gdk::Pixbuf>
+FragmentDrawerHelper::_getFragmentImage(const Cairo::RefPtr<Cairo::Context>& context, Fragment& fragment) {
+    if (fragment.needRedraw) {
+        // The flag goes first: a fragment that marks itself while it is painted is painted again the next
+        // time.
+        fragment.needRedraw = false;
+        fragment.image = _getImage(context, fragment.drawer);
+    }
+    return fragment.image;
+}
+
+Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::_addAlpha(const Glib::RefPtr<Gdk::Pixbuf>& picture) const {
+    if (!picture)
+        return {};
+    return picture->add_alpha(true, backgroundColor.r, backgroundColor.g, backgroundColor.b);
+}
+
+void FragmentDrawerHelper::_attachSticker(const Glib::RefPtr<Gdk::Pixbuf>& picture) {
+    if (!picture || !background)
+        return;
+    // A picture from before a change of size covers what it can; beyond its edge there is nothing to compose.
+    const int width = std::min({widget.get_allocated_width(), picture->get_width(), background->get_width()});
+    const int height =
+        std::min({widget.get_allocated_height(), picture->get_height(), background->get_height()});
+    picture->composite(background, 0, 0, width, height, 0, 0, 1, 1, Gdk::INTERP_NEAREST, 255);
+}
+
+} // namespace ZelView::Fragments

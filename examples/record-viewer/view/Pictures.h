@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Signals.h"
+
+#include <string>
+#include <vector>
+
+namespace viewer {
+
+/// Paints all sections without a visible window and writes them as PNG files into the folder, which is made
+/// if it is not there: "<stem>.png", or "<stem>-1.png" and so on where one picture would be too high. Returns
+/// the paths. Throws `Glib::Error` where a file can't be written. Needs a display.
+std::vector<std::string> writePictures(std::vector<Section> sections, const std::string& folder,
+                                       const std::string& stem);
+
+} // namespace viewer
