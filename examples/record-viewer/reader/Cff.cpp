@@ -36,6 +36,9 @@ bool takeWord(std::string_view& text, std::string_view word) {
 
 /// Reads a line such as "--- file type: DAT BINARY: 702 ---". Two dashes and a missing colon are forgiven.
 std::optional<Mark> parseMark(std::string_view line) {
+    // An editor may have put a byte order mark before the first one.
+    if (line.substr(0, 3) == "\xEF\xBB\xBF")
+        line.remove_prefix(3);
     line = trim(line);
     if (line.substr(0, 2) != "--" || line.size() > 200)
         return std::nullopt;

@@ -10,6 +10,9 @@ namespace record {
 namespace {
 
 Config decodeConfig(std::string_view bytes, const std::string& name, const Options& options) {
+    if (bytes.size() > longestConfiguration)
+        throw Error(name + ": expected a configuration of at most " + counted(longestConfiguration, "byte") +
+                    ", found " + counted(bytes.size(), "byte") + ".");
     DecodedText decoded = decode(bytes, options.codePage);
     Config config = parseConfig(decoded.text, name, options.salvage);
     config.record.encoding = decoded.encoding;

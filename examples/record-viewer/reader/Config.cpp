@@ -12,6 +12,8 @@ namespace record {
 
 namespace {
 
+constexpr std::size_t keptWarnings = 100;
+
 using Fields = std::vector<std::string_view>;
 
 class Parser {
@@ -32,6 +34,9 @@ public:
         if (surplusCommas > 0)
             warn(source.name() + ": " + counted(surplusCommas, "line") +
                  " with a comma too many at the end.");
+        if (warningCount > keptWarnings)
+            out().warnings.push_back(source.name() + ": " +
+                                     counted(warningCount - keptWarnings, "more warning") + ".");
         return std::move(config);
     }
 
@@ -55,7 +60,11 @@ private:
 
     Record& out() { return config.record; }
 
-    void warn(const std::string& text) { out().warnings.push_back(text); }
+    /// A damaged list of many channels must not bury everything else.
+    void warn(const std::string& text) {
+        if (++warningCount <= keptWarnings)
+            out().warnings.push_back(text);
+    }
 
     void warnHere(const std::string& text) { warn(place() + ": " + text); }
 
@@ -261,7 +270,7 @@ private:
         const auto moment = parseMoment(field(fields, 0), field(fields, 1), out().revision == 1991);
         if (!moment)
             warnHere("the date and time of " + what + " is given as " + inQuotes(line) + ", which is none.");
-        else if (moment->fractionDigits > 6 && out().revision == 2013)
+        else if (moment->fractionDigits >= 9 && out().revision == 2013)
             out().stampUnit = 1e-9;
         return moment;
     }
@@ -309,6 +318,7 @@ private:
     std::string_view line;
     std::uint64_t surplusCommas = 0;
     bool hasLongLines = false;
+    std::size_t warningCount = 0;
 };
 
 } // namespace

@@ -13,7 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t longestConfiguration = 64 * 1024 * 1024;
 constexpr std::size_t longestHeader = 4 * 1024 * 1024;
 
 std::string extensionOf(const fs::path& path) {

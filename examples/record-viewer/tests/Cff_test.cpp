@@ -117,6 +117,19 @@ TEST(CombinedFile, AnUnknownFormatInTheMarkIsTold) {
     EXPECT_THAT(record.warnings, ElementsAre(HasSubstr("\"BINARY64\"")));
 }
 
+TEST(CombinedFile, AByteOrderMarkBeforeTheFirstMarkIsIgnored) {
+    EXPECT_EQ(read("\xEF\xBB\xBF" + configMark + configuration("ASCII") + "--- file type: DAT ASCII ---\n" +
+                   threeLines)
+                  .size(),
+              3u);
+}
+
+TEST(CombinedFile, AnEndlessConfigurationIsRefused) {
+    const std::string endless(17 * 1024 * 1024, '\n');
+    EXPECT_THAT(refusal(configMark + endless + "--- file type: DAT ASCII ---\n"),
+                HasSubstr("a configuration of at most 16777216 bytes"));
+}
+
 TEST(CombinedFile, EmptySectionsAreAllowed) {
     const Record record = read(
         configMark + configuration("ASCII") +

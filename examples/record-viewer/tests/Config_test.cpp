@@ -261,7 +261,7 @@ TEST(Config, NineDigitsMeanTicksOfANanosecondSince2013) {
     EXPECT_EQ(parse(configuration).record.stampUnit, 1e-6);
     configuration.station = "S,D,2013";
     EXPECT_EQ(parse(configuration).record.stampUnit, 1e-9);
-    configuration.start = "27/07/2023,09:19:53.156666";
+    configuration.start = "27/07/2023,09:19:53.15666651";
     EXPECT_EQ(parse(configuration).record.stampUnit, 1e-6);
 }
 
@@ -325,6 +325,17 @@ TEST(Config, ATextThatEndsTooEarlyIsRefused) {
     Configuration configuration;
     configuration.rates = {"90000000", "1000,3"};
     EXPECT_NE(refusal(configuration), "nothing");
+}
+
+TEST(Config, WarningsAreCutShort) {
+    Configuration configuration;
+    configuration.counts = "252,2A,250D";
+    configuration.binaries.assign(250, "1,Trip,,,on");
+    const Record record = parse(configuration).record;
+    ASSERT_EQ(record.warnings.size(), 101u);
+    EXPECT_THAT(record.warnings[0],
+                HasSubstr("line 5: the normal state of a binary channel is given as \"on\""));
+    EXPECT_THAT(record.warnings[100], HasSubstr("150 more warnings"));
 }
 
 TEST(Config, CountsBeyondTheTextAreRefusedBeforeAnythingIsAllocated) {

@@ -1,10 +1,11 @@
 #include "Samples.h"
 
+#include "support/TemporaryFolder.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 using namespace record;
 using test::Configuration;
@@ -17,20 +18,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A folder of its own for each test.
 class Opening : public testing::Test {
 protected:
-    void SetUp() override {
-        folder = fs::path(testing::TempDir()) /
-                 ("record-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-    }
-
-    void TearDown() override { fs::remove_all(folder); }
-
     fs::path write(const std::string& name, const std::string& bytes) {
-        std::ofstream(folder / name, std::ios::binary) << bytes;
+        test::writeFile(folder / name, bytes);
         return folder / name;
     }
 
@@ -38,7 +29,8 @@ protected:
         return test::refusal([&] { record::open(folder / name); });
     }
 
-    fs::path folder;
+    const test::TemporaryFolder temporary;
+    const fs::path folder = temporary.path;
     const std::string config = Configuration().text();
 };
 
