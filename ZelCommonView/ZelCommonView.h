@@ -20,6 +20,11 @@
 #include <ZelCommonView/common/StringHelper.h>
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
+#include <ZelCommonView/markers/Marker.h>
+#include <ZelCommonView/markers/MarkerDrawerCfg.h>
+#include <ZelCommonView/markers/MarkerDrawerHelper.h>
+#include <ZelCommonView/markers/MarkerTextDrawer.h>
+#include <ZelCommonView/markers/MarkersManager.h>
 #include <ZelCommonView/plot/ConverterProxy.h>
 #include <ZelCommonView/plot/CoordsBordersCalc.h>
 #include <ZelCommonView/plot/CoordsConverter.h>
