@@ -94,7 +94,7 @@ public:
 };
 
 /// Each axis fills its side of the widget.
-class ZEL_API StretchableCoordsConverter final : public CoordsConverter {
+class ZEL_API StretchableCoordsConverter : public CoordsConverter {
 public:
     float getVisualX(float x) const override;
     float getVisualY(float y) const override;
@@ -107,7 +107,7 @@ public:
 };
 
 /// Both axes have the smaller of the two scales; the data are centred in the free space.
-class ZEL_API ProportionalCoordsConverter final : public CoordsConverter {
+class ZEL_API ProportionalCoordsConverter : public CoordsConverter {
 public:
     float getVisualX(float x) const override;
     float getVisualY(float y) const override;

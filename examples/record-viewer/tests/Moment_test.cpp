@@ -19,6 +19,7 @@ TEST(Moments, TheDayStandsFirstSince1999AndTheMonthBefore) {
 }
 
 TEST(Moments, AMonthAboveTwelveIsSwappedWithTheDay) {
+    EXPECT_EQ(text("12/13/2015", "00:00:00"), "2015-12-13T00:00:00.000000000");
     EXPECT_EQ(text("09/17/2015", "00:00:00"), "2015-09-17T00:00:00.000000000");
     EXPECT_EQ(text("17/09/2015", "00:00:00", true), "2015-09-17T00:00:00.000000000");
 }

@@ -50,12 +50,19 @@ TEST_F(Opening, APairOpensByEitherFileInAnyLetterCase) {
 }
 
 TEST_F(Opening, TheSameStemIsPreferredToAnotherLetterCase) {
-    write("rec.cfg", config);
-    write("REC.DAT", "1,0,1,1,0\n");
-    write("rec.DaT", threeLines);
-    EXPECT_EQ(record::open(folder / "rec.cfg").size(), 3u);
-    fs::remove(folder / "rec.DaT");
-    EXPECT_EQ(record::open(folder / "rec.cfg").size(), 1u);
+    write("record.cfg", config);
+    // Folders list their files in no order, so many others are needed to be sure that the right one is not
+    // just the first.
+    for (int capitals = 1; capitals < 64; ++capitals) {
+        std::string stem = "record";
+        for (std::size_t i = 0; i < stem.size(); ++i)
+            if (capitals >> i & 1)
+                stem[i] = static_cast<char>(stem[i] - 'a' + 'A');
+        write(stem + ".DAT", "1,0,1,1,0\n");
+    }
+    EXPECT_EQ(record::open(folder / "record.cfg").size(), 1u);
+    write("record.DaT", threeLines);
+    EXPECT_EQ(record::open(folder / "record.cfg").size(), 3u);
 }
 
 TEST_F(Opening, AStemMeansThePairBeforeTheCombinedFile) {
