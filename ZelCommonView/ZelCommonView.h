@@ -20,6 +20,10 @@
 #include <ZelCommonView/common/StringHelper.h>
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
+#include <ZelCommonView/oscillogram/ButtonsToolbar.h>
+#include <ZelCommonView/oscillogram/ResizableWindow.h>
+#include <ZelCommonView/oscillogram/SizeGroupAdapter.h>
+#include <ZelCommonView/oscillogram/WidgetSeparatorSequence.h>
 #include <ZelCommonView/plot/ConverterProxy.h>
 #include <ZelCommonView/plot/CoordsBordersCalc.h>
 #include <ZelCommonView/plot/CoordsConverter.h>
