@@ -19,6 +19,8 @@
 #include <ZelCommonView/common/RectangleF.h>
 #include <ZelCommonView/common/StringHelper.h>
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
+#include <ZelCommonView/fragments/FragmentableCollectionWidget.h>
+#include <ZelCommonView/fragments/FragmentableWidget.h>
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
 #include <ZelCommonView/oscillogram/ButtonsToolbar.h>
 #include <ZelCommonView/oscillogram/ResizableWindow.h>
