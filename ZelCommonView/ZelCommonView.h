@@ -24,6 +24,7 @@
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
 #include <ZelCommonView/oscillogram/ButtonsToolbar.h>
 #include <ZelCommonView/oscillogram/ResizableWindow.h>
+#include <ZelCommonView/oscillogram/SeriesGroupDrawArea.h>
 #include <ZelCommonView/oscillogram/SizeGroupAdapter.h>
 #include <ZelCommonView/oscillogram/WidgetSeparatorSequence.h>
 #include <ZelCommonView/plot/ConverterProxy.h>
