@@ -22,6 +22,8 @@
 #include <ZelCommonView/fragments/FragmentableCollectionWidget.h>
 #include <ZelCommonView/fragments/FragmentableWidget.h>
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
+#include <ZelCommonView/markers/CursorPosDrawer.h>
+#include <ZelCommonView/markers/IntervalDrawer.h>
 #include <ZelCommonView/oscillogram/ButtonsToolbar.h>
 #include <ZelCommonView/oscillogram/ResizableWindow.h>
 #include <ZelCommonView/oscillogram/SeriesGroupDrawArea.h>
