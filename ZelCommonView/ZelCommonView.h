@@ -25,6 +25,8 @@
 #include <ZelCommonView/markers/CursorPosDrawer.h>
 #include <ZelCommonView/markers/IntervalDrawer.h>
 #include <ZelCommonView/oscillogram/ButtonsToolbar.h>
+#include <ZelCommonView/oscillogram/RangeScrollbar.h>
+#include <ZelCommonView/oscillogram/RangeSlider.h>
 #include <ZelCommonView/oscillogram/ResizableWindow.h>
 #include <ZelCommonView/oscillogram/SeriesGroupDrawArea.h>
 #include <ZelCommonView/oscillogram/SizeGroupAdapter.h>
