@@ -30,3 +30,7 @@
 #include <ZelCommonView/plot/ImageDrawer.h>
 #include <ZelCommonView/plot/Series.h>
 #include <ZelCommonView/plot/SeriesDrawer.h>
+#include <ZelCommonView/presentation/ApplicationDispatcher.h>
+#include <ZelCommonView/presentation/GtkWidgetHelper.h>
+#include <ZelCommonView/presentation/UpdateViewGuard.h>
+#include <ZelCommonView/presentation/ViewPresenter.h>
