@@ -1,6 +1,6 @@
 #include <ZelCommonView/markers/MarkerDrawer.h>
 
-#include <ZelCommonView/dialogs/FileDialog.h>
+#include <ZelCommonView/dialogs/FileDialogPresenter.h>
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
 #include <ZelCommonView/markers/ContextMenuAdapter.h>
 #include <ZelCommonView/markers/MarkerWords.h>
