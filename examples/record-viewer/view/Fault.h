@@ -1,0 +1,21 @@
+#pragma once
+
+#include "reader/Record.h"
+
+#include <optional>
+
+namespace viewer {
+
+/// A stretch of time, seconds on the record's axis.
+struct Interval {
+    double from = 0;
+    double to = 0;
+};
+
+/// The stretch in which a current is far above what it was at the record's beginning: the root mean square
+/// over one cycle, as measured on the sliding window that ends at each sample, above twice that of the first
+/// cycle and above a tenth of its largest. Empty where there are no currents (units A or kA), no line
+/// frequency, fewer than two cycles, or nothing of that kind.
+std::optional<Interval> findFault(const record::Record& record);
+
+} // namespace viewer
