@@ -14,6 +14,9 @@ set(ZEL_TEST_ENVIRONMENT
     "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
     "TSAN_OPTIONS=ignore_noninstrumented_modules=1:halt_on_error=1")
 
+# All tests in which two threads meet: what the thread sanitizer is for.
+add_custom_target(zel-thread-tests)
+
 # zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN] [HANDS])
 # makes the program folder.file. PLAIN is for tests that need neither GTK nor a display; HANDS for those that move the
 # real pointer or press real keys, which must not run beside each other.
@@ -37,6 +40,9 @@ function(zel_add_test folder file)
 
   add_test(NAME ${target} COMMAND ${target})
   set_tests_properties(${target} PROPERTIES ENVIRONMENT "${ZEL_TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}" TIMEOUT 300)
+  if("threads" IN_LIST TEST_LABELS)
+    add_dependencies(zel-thread-tests ${target})
+  endif()
   if(TEST_HANDS)
     set_tests_properties(${target} PROPERTIES RESOURCE_LOCK pointer)
   endif()
