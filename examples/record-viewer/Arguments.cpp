@@ -22,6 +22,7 @@ Arguments parseArguments(int argc, char** argv) {
     Arguments arguments;
     Glib::ustring codePage = arguments.codePage;
     Glib::ustring axis;
+    Glib::ustring language = "en";
     Glib::OptionGroup::vecstrings files;
 
     Glib::OptionGroup group("record-viewer", "Options of the viewer");
@@ -33,6 +34,7 @@ Arguments parseArguments(int argc, char** argv) {
     group.add_entry(entry("code-page", "Code page of texts that are not UTF-8 (CP1251)", "NAME"), codePage);
     group.add_entry(
         entry("axis", "Take times from the sampling rates or from the time stamps", "rates|stamps"), axis);
+    group.add_entry(entry("lang", "Language of the window (en)", "en|ru"), language);
     Glib::OptionEntry rest;
     rest.set_long_name(G_OPTION_REMAINING);
     rest.set_arg_description("FILE");
@@ -50,6 +52,9 @@ Arguments parseArguments(int argc, char** argv) {
     arguments.axis = axis;
     if (!axis.empty() && axis != "rates" && axis != "stamps")
         throw ArgumentsError("--axis takes \"rates\" or \"stamps\", and not \"" + axis + "\"");
+    if (language != "en" && language != "ru")
+        throw ArgumentsError("--lang takes \"en\" or \"ru\", and not \"" + language + "\"");
+    arguments.language = language == "ru" ? 1 : 0;
     if (files.empty())
         throw ArgumentsError("name the record to open: record-viewer FILE");
     if (files.size() > 1)

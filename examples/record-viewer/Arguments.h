@@ -10,7 +10,8 @@ struct Arguments {
     std::string file;
     std::string pictureFolder; ///< pictures are written there in place of a window
     std::string codePage = "CP1251";
-    std::string axis; ///< "rates", "stamps" or empty for what the record suggests
+    std::string axis;           ///< "rates", "stamps" or empty for what the record suggests
+    unsigned char language = 0; ///< 0 is English, 1 is Russian
     bool isInfo = false;
     bool isJson = false;
     bool isSalvage = false;

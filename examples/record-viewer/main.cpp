@@ -1,8 +1,14 @@
 #include "Arguments.h"
 #include "info/Info.h"
 #include "reader/Reader.h"
+#include "view/Loader.h"
 #include "view/MainWindow.h"
 #include "view/Pictures.h"
+
+#include "view/Words.h"
+
+#include <ZelCommonView/dialogs/DialogPresenter.h>
+#include <ZelCommonView/presentation/ApplicationDispatcher.h>
 
 #include <gtkmm.h>
 
@@ -19,20 +25,21 @@ int complain(const std::string& sentence, ExitCode code) {
     return code;
 }
 
-record::Record read(const viewer::Arguments& arguments) {
+record::Options optionsOf(const viewer::Arguments& arguments) {
     record::Options options;
     options.codePage = arguments.codePage;
     options.salvage = arguments.isSalvage;
-    record::Record record = record::open(arguments.file, options);
-    if (!arguments.axis.empty())
-        record.time.setRule(arguments.axis == "rates" ? record::TimeAxis::Rule::Rates
-                                                      : record::TimeAxis::Rule::Stamps);
+    return options;
+}
+
+record::Record withAxis(record::Record record, const std::string& axis) {
+    if (!axis.empty())
+        record.time.setRule(axis == "rates" ? record::TimeAxis::Rule::Rates : record::TimeAxis::Rule::Stamps);
     return record;
 }
 
-std::string summaryOf(const record::Record& record) {
-    return std::to_string(record.analogs.size()) + " analog and " + std::to_string(record.binaries.size()) +
-           " binary channels, " + std::to_string(record.size()) + " samples";
+record::Record read(const viewer::Arguments& arguments) {
+    return withAxis(record::open(arguments.file, optionsOf(arguments)), arguments.axis);
 }
 
 /// The display is asked for only when something is painted, so that texts are printed without one.
@@ -45,13 +52,43 @@ bool isDisplayThere() {
     return true;
 }
 
-int show(const std::string& file, record::Record record) {
-    const std::string title = std::filesystem::path(file).filename().string() + " - " + record.station;
-    const std::string summary = summaryOf(record);
-    const std::vector<std::string> warnings = record.warnings;
+/// Reads a large record behind a dialog over the window; false if there is nothing to show.
+bool loadInto(viewer::MainWindow& window, const viewer::Arguments& arguments) {
+    try {
+        window.setRecord(
+            withAxis(viewer::loadBehindDialog(window, arguments.file, optionsOf(arguments)), arguments.axis));
+        return true;
+    } catch (const record::Cancelled&) {
+        return false;
+    } catch (const record::Error& error) {
+        complain(error.what(), Failure);
+        Zel::DialogPresenter::show(&window, error.what(), viewer::words::cantRead(), Zel::DialogResult::Ok);
+        return false;
+    }
+}
+
+int show(const viewer::Arguments& arguments) {
+    Zel::ApplicationDispatcherPresenter::getInstance().registerDispatcher();
+    const bool isLarge = viewer::isLarge(arguments.file);
+    // A small record is read before there is a window, so that its faults are told where it was asked for.
+    std::optional<record::Record> record;
+    if (!isLarge)
+        record = read(arguments);
+
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
-    viewer::MainWindow window(title, viewer::makeSections(record), summary, warnings);
-    return application->run(window);
+    viewer::MainWindow window(std::filesystem::path(arguments.file).filename().string());
+    int code = Success;
+    if (record)
+        window.setRecord(std::move(*record));
+    else
+        Glib::signal_idle().connect_once([&] {
+            if (loadInto(window, arguments))
+                return;
+            code = Failure;
+            window.close();
+        });
+    application->run(window);
+    return code;
 }
 
 int writePictures(const viewer::Arguments& arguments, record::Record record) {
@@ -76,18 +113,19 @@ int main(int argc, char** argv) {
     viewer::Arguments arguments;
     try {
         arguments = viewer::parseArguments(argc, argv);
-        record::Record record = read(arguments);
-        if (arguments.isJson)
-            std::cout << record::jsonText(record) << "\n";
-        else if (arguments.isInfo)
-            std::cout << record::describe(record);
-        if (arguments.isInfo || arguments.isJson)
+        lng::language = arguments.language;
+        if (arguments.isInfo || arguments.isJson) {
+            const record::Record record = read(arguments);
+            if (arguments.isJson)
+                std::cout << record::jsonText(record) << "\n";
+            else
+                std::cout << record::describe(record);
             return Success;
+        }
 
         if (!isDisplayThere())
             return complain("there is no display to paint on; --info and --json need none", Failure);
-        return arguments.pictureFolder.empty() ? show(arguments.file, std::move(record))
-                                               : writePictures(arguments, std::move(record));
+        return arguments.pictureFolder.empty() ? show(arguments) : writePictures(arguments, read(arguments));
     } catch (const viewer::ArgumentsError& error) {
         return complain(error.what(), BadArguments);
     } catch (const record::Error& error) {

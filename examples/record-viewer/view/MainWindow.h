@@ -1,27 +1,33 @@
 #pragma once
 
-#include "SignalPlot.h"
 #include "Signals.h"
+
+#include <ZelCommonView/oscillogram/Oscillograph.h>
+#include <ZelCommonView/presentation/ViewPresenter.h>
 
 #include <gtkmm.h>
 
-#include <memory>
 #include <string>
-#include <vector>
 
 namespace viewer {
 
-/// Shows one record: its plots one below the other, and what was odd about it in a line at the bottom.
-class MainWindow : public Gtk::Window {
+/// Shows one record on an oscillograph, with what was odd about it in a line at the bottom. It can be on the
+/// screen before there is a record.
+class MainWindow : public Gtk::Window, public Zel::IView {
 public:
-    MainWindow(const std::string& title, std::vector<Section> sections, const std::string& summary,
-               const std::vector<std::string>& warnings);
+    explicit MainWindow(const std::string& title);
+    ~MainWindow() override;
+
+    void setRecord(record::Record record);
 
 private:
-    std::vector<std::unique_ptr<SignalPlot>> plots;
+    void _showRange(float from, float to);
+    void _growBinaryArea(std::size_t rows);
+
+    Oscillogram oscillogram; ///< outlives the oscillograph, which shows its series
+    std::string summary;
     Gtk::Box page{Gtk::ORIENTATION_VERTICAL};
-    Gtk::Box plotsBox{Gtk::ORIENTATION_VERTICAL};
-    Gtk::ScrolledWindow scrolled;
+    ZelView::Oscillograph oscillograph;
     Gtk::Label status;
 };
 

@@ -10,10 +10,10 @@ namespace viewer {
 
 namespace {
 
-constexpr int namesWidth = 180;  // pixels
-constexpr int curveHeight = 260; // of a plot of curves, pixels
-constexpr int nameHeight = 16;   // pixels
-constexpr float rowsMargin = 16; // above the first binary row, pixels
+constexpr int namesWidth = 180;            // pixels
+constexpr int curveHeight = 260;           // of a plot of curves, pixels
+constexpr int nameHeight = 16;             // pixels
+constexpr float rowsMargin = 16;           // above the first binary row, pixels
 constexpr double maxPicturesBytes = 128e6; // of one plot
 constexpr float limitsMargin = 0.05f;      // free space above and below curves, of their span
 

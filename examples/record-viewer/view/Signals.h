@@ -1,10 +1,12 @@
 #pragma once
 
+#include "Fault.h"
 #include "reader/Record.h"
 
 #include <ZelCommonView/plot/Series.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,5 +30,18 @@ struct Section {
 /// A sample that is missing has no point; the curve runs on from its neighbour. A binary has a point where it
 /// changes and at both ends.
 std::vector<Section> makeSections(record::Record& record);
+
+/// What an oscillogram shows of a record. Times count from the earliest sample.
+struct Oscillogram {
+    /// Owned one by one, as in a section. Voltages stand in draw area 0, or the first quantity of a record
+    /// that has none; everything else in draw area 1. Numbers have the prefix that fits them to an automatic
+    /// axis, which the name tells.
+    std::vector<std::unique_ptr<Zel::Series>> series;
+    float duration = 0; ///< seconds
+    std::optional<Interval> fault;
+};
+
+/// Gives the samples of the record up, as `makeSections` does.
+Oscillogram makeOscillogram(record::Record& record);
 
 } // namespace viewer

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "reader/Reader.h"
+
+#include <cstdint>
+#include <string>
+
+namespace Zel {
+class IView;
+}
+
+namespace viewer {
+
+/// Files from this size on are read behind a waiting dialog, bytes.
+constexpr std::uintmax_t largeFile = 4'000'000;
+
+/// Whether the record's files together are large.
+bool isLarge(const std::string& file);
+
+/// Reads the record on a thread of its own, behind a dialog over the parent's window that tells how far it is
+/// and can be cancelled. What the reader throws is thrown here; cancelling, also by Escape, throws
+/// `record::Cancelled`.
+record::Record loadBehindDialog(Zel::IView& parent, const std::string& file, record::Options options);
+
+} // namespace viewer

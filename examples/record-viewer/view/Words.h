@@ -1,0 +1,53 @@
+#pragma once
+
+#include <ZelCommonView/common/Language.h>
+
+/// The viewer's own words, in the language that is selected when they are asked for.
+namespace viewer::words {
+
+inline const char* reading() {
+    static const char* const ar[] = {"Reading the record", "Чтение записи"};
+    return ar[lng::index()];
+}
+
+inline const char* preparing() {
+    static const char* const ar[] = {"Preparing the signals", "Подготовка сигналов"};
+    return ar[lng::index()];
+}
+
+inline const char* cantRead() {
+    static const char* const ar[] = {"The record can't be read", "Запись не читается"};
+    return ar[lng::index()];
+}
+
+inline const char* analogs() {
+    static const char* const ar[] = {"analog channels", "аналоговых каналов"};
+    return ar[lng::index()];
+}
+
+inline const char* binaries() {
+    static const char* const ar[] = {"binary channels", "дискретных каналов"};
+    return ar[lng::index()];
+}
+
+inline const char* samples() {
+    static const char* const ar[] = {"samples", "отсчётов"};
+    return ar[lng::index()];
+}
+
+inline const char* shown() {
+    static const char* const ar[] = {"shown", "показано"};
+    return ar[lng::index()];
+}
+
+inline const char* seconds() {
+    static const char* const ar[] = {"s", "с"};
+    return ar[lng::index()];
+}
+
+inline const char* warnings() {
+    static const char* const ar[] = {"warnings, the first", "предупреждений, первое"};
+    return ar[lng::index()];
+}
+
+} // namespace viewer::words
