@@ -158,7 +158,7 @@ private:
 };
 
 /// Paints the same random layers both ways three times: all marked, one marked, all in one image.
-void compare(unsigned int seed, int width, int height, Zel::Color background, int offset) {
+void expectSameRoad(unsigned int seed, int width, int height, Zel::Color background, int offset) {
     std::mt19937 random(seed);
     const auto make = [&] {
         return randomDrawing(static_cast<unsigned int>(random()), width, height, background);
@@ -218,7 +218,7 @@ TEST(RoadOfPixels, IsTheDescribedSequenceToTheByte) {
         for (Zel::Color background : {Zel::Color{255, 255, 255, 255}, Zel::Color{0, 0, 0, 255},
                                       Zel::Color{240, 245, 250, 255}, Zel::Color{255, 255, 255, 128}})
             for (int offset : {0, 11})
-                compare(seed++, width, height, background, offset);
+                expectSameRoad(seed++, width, height, background, offset);
 }
 
 TEST(RoadOfPixels, TheReferencePaintsSomething) {
