@@ -1,4 +1,4 @@
-/// What a person does: waiting, and moving the pointer by real events of the display.
+/// What a person does: waiting, moving the pointer and pressing its buttons by real events of the display.
 #pragma once
 
 #include <gtkmm.h>
@@ -21,6 +21,26 @@ void movePointer(int screenX, int screenY);
 
 /// Moves the pointer to a place of a widget that is on the screen, in the widget's pixels.
 void movePointer(Gtk::Widget& widget, int x, int y);
+
+/// Moves the pointer to the farthest corner of the screen, away from every window.
+void movePointerAway();
+
+/// Presses a button of the mouse where the pointer is; 1 is the left one.
+void pressButton(unsigned int button = 1);
+
+void releaseButton(unsigned int button = 1);
+
+/// Presses and releases a button at a place of a widget, in the widget's pixels.
+void click(Gtk::Widget& widget, int x, int y, unsigned int button = 1);
+
+/// Presses and releases a button in the middle of a widget.
+void click(Gtk::Widget& widget, unsigned int button = 1);
+
+/// Moves the pointer from one place of a widget to another with the left button pressed, in several steps.
+void drag(Gtk::Widget& widget, int fromX, int fromY, int toX, int toY);
+
+/// Shows a window on the screen and waits until it is there, with the pointer away from it.
+void present(Gtk::Window& window);
 
 /// Gives a widget without a window a size; GTK keeps that of shown ones only.
 void allocate(Gtk::Widget& widget, int width, int height);
