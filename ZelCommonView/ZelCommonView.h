@@ -18,6 +18,9 @@
 #include <ZelCommonView/common/PointerNamedConnectionsDispatcher.h>
 #include <ZelCommonView/common/RectangleF.h>
 #include <ZelCommonView/common/StringHelper.h>
+#include <ZelCommonView/dialogs/DialogPresenter.h>
+#include <ZelCommonView/dialogs/FileDialogHelper.h>
+#include <ZelCommonView/dialogs/FileDialogPresenter.h>
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
 #include <ZelCommonView/plot/ConverterProxy.h>
