@@ -21,6 +21,8 @@
 #include <ZelCommonView/dialogs/DialogPresenter.h>
 #include <ZelCommonView/dialogs/FileDialogHelper.h>
 #include <ZelCommonView/dialogs/FileDialogPresenter.h>
+#include <ZelCommonView/dialogs/WaitingDialog.h>
+#include <ZelCommonView/dialogs/WaitingDialogPresenter.h>
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
 #include <ZelCommonView/fragments/FragmentableCollectionWidget.h>
 #include <ZelCommonView/fragments/FragmentableWidget.h>

@@ -36,6 +36,9 @@ public:
         });
     }
 
+    /// Expires with the guard: for code on the GTK thread that calls something which may destroy the guard.
+    std::weak_ptr<LifetimeToken> getLifetime() const { return token; }
+
 private:
     std::shared_ptr<LifetimeToken> token; ///< never handed out strongly
 };

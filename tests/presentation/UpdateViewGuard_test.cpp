@@ -105,3 +105,11 @@ TEST_F(UpdateViewGuardTest, ManyWorkersMayQueueAtOnce) {
     for (std::thread& worker : workers)
         worker.join();
 }
+
+TEST_F(UpdateViewGuardTest, ItsLifetimeCanBeWatched) {
+    const auto lifetime = guard->getLifetime();
+    EXPECT_FALSE(lifetime.expired());
+    EXPECT_EQ(guard->token.use_count(), 1);
+    guard.reset();
+    EXPECT_TRUE(lifetime.expired());
+}
