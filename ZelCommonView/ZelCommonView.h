@@ -38,11 +38,15 @@
 #include <ZelCommonView/markers/MarkerWords.h>
 #include <ZelCommonView/markers/MarkersManager.h>
 #include <ZelCommonView/oscillogram/ButtonsToolbar.h>
+#include <ZelCommonView/oscillogram/DrawAreaSections.h>
+#include <ZelCommonView/oscillogram/PackableDrawArea.h>
 #include <ZelCommonView/oscillogram/RangeScrollbar.h>
 #include <ZelCommonView/oscillogram/RangeSlider.h>
 #include <ZelCommonView/oscillogram/ResizableWindow.h>
 #include <ZelCommonView/oscillogram/SeriesGroupDrawArea.h>
+#include <ZelCommonView/oscillogram/SeriesSections.h>
 #include <ZelCommonView/oscillogram/SizeGroupAdapter.h>
+#include <ZelCommonView/oscillogram/SummarySections.h>
 #include <ZelCommonView/oscillogram/WidgetSeparatorSequence.h>
 #include <ZelCommonView/plot/ConverterProxy.h>
 #include <ZelCommonView/plot/CoordsBordersCalc.h>
