@@ -55,10 +55,11 @@ protected:
         ASSERT_TRUE(test::waitFor([this] { return drawer.contextMenu->menu.get_mapped(); }));
         Gtk::MenuItem& item = drawer.contextMenu->items.back();
         ASSERT_EQ(item.get_label(), lngExportPng());
-        test::movePointer(item, 20, 5);
-        test::settle();
-        // From here on the main loop never rests: it looks for the dialog.
+        // From here on the main loop never rests: the answer looks for the dialog, and it moved the pointer
+        // away.
         test::Answer person(act);
+        test::movePointer(item, 20, 5);
+        test::wait(200);
         test::pressButton();
         test::releaseButton();
         EXPECT_TRUE(test::waitFor([&] { return person.hasActed() && test::findDialogs().empty(); }, 20000));
