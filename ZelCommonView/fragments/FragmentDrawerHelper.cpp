@@ -1,5 +1,7 @@
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
 
+#include <ZelCommonView/plot/CairoColor.h>
+
 #include <gdkmm/general.h>
 #include <gtkmm/widget.h>
 
@@ -50,8 +52,7 @@ void FragmentDrawerHelper::drawFragment(const Cairo::RefPtr<Cairo::Context>& con
 }
 
 void FragmentDrawerHelper::_clearBackground(const Cairo::RefPtr<Cairo::Context>& context) {
-    context->set_source_rgba(backgroundColor.r / 255.0, backgroundColor.g / 255.0, backgroundColor.b / 255.0,
-                             backgroundColor.a / 255.0);
+    setSource(context, backgroundColor);
     context->paint();
 }
 

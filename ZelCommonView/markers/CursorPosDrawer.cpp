@@ -1,5 +1,6 @@
 #include <ZelCommonView/markers/CursorPosDrawer.h>
 
+#include <ZelCommonView/plot/CairoColor.h>
 #include <ZelCommonView/plot/CoordsConverter.h>
 
 #include <gdkmm/cursor.h>
@@ -51,7 +52,7 @@ void CursorPosDrawer::draw(const Cairo::RefPtr<Cairo::Context>& context) {
 
     context->move_to(position.x + 2, position.y - 2);
     const Zel::Color color = cfg.textColor;
-    context->set_source_rgba(color.r / 255.0, color.g / 255.0, color.b / 255.0, color.a / 255.0);
+    setSource(context, color);
     context->set_font_size(cfg.fontSize);
     context->show_text(_getText());
 

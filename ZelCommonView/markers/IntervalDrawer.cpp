@@ -1,5 +1,6 @@
 #include <ZelCommonView/markers/IntervalDrawer.h>
 
+#include <ZelCommonView/plot/CairoColor.h>
 #include <ZelCommonView/plot/CoordsConverter.h>
 
 #include <gtkmm/widget.h>
@@ -15,7 +16,7 @@ void IntervalDrawer::setHorizontalInterval(float newFrom, float newTo) {
 }
 
 void IntervalDrawer::draw(const Cairo::RefPtr<Cairo::Context>& context) {
-    context->set_source_rgba(color.r / 255.0, color.g / 255.0, color.b / 255.0, color.a / 255.0);
+    setSource(context, color);
     const float x1 = converter->getVisualX(from);
     const float x2 = converter->getVisualX(to);
     context->move_to(x1, 0);

@@ -1,6 +1,7 @@
 #include <ZelCommonView/markers/Marker.h>
 
 #include <ZelCommonView/markers/MarkerDrawerCfg.h>
+#include <ZelCommonView/plot/CairoColor.h>
 #include <ZelCommonView/plot/CoordsConverter.h>
 
 #include <algorithm>
@@ -162,8 +163,7 @@ void DoubleMarker::_fillBackground(const Cairo::RefPtr<Cairo::Context>& context)
     const float y1 = converter->getVisualY(_getPoint(1).y);
     const float x2 = converter->getVisualX(_getPoint(2).x);
     const float y2 = converter->getVisualY(_getPoint(2).y);
-    context->set_source_rgba(cfg.fillColor.r / 255.0, cfg.fillColor.g / 255.0, cfg.fillColor.b / 255.0,
-                             cfg.fillColor.a / 255.0);
+    setSource(context, cfg.fillColor);
     context->rectangle(x1, y1, x2 - x1, y2 - y1);
     context->fill();
 }

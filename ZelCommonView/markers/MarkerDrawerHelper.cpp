@@ -1,6 +1,7 @@
 #include <ZelCommonView/markers/MarkerDrawerHelper.h>
 
 #include <ZelCommonView/markers/MarkerDrawerCfg.h>
+#include <ZelCommonView/plot/CairoColor.h>
 #include <ZelCommonView/plot/CoordsConverter.h>
 
 #include <cstdio>
@@ -23,8 +24,7 @@ void MarkerDrawerHelper::setConverter(const CoordsConverter& value) {
 void MarkerDrawerHelper::drawLine(const Cairo::RefPtr<Cairo::Context>& context, Zel::PointF worldPoint,
                                   bool isGlobal) const {
     context->set_line_width(cfg.lineWidth);
-    context->set_source_rgba(cfg.lineColor.r / 255.0, cfg.lineColor.g / 255.0, cfg.lineColor.b / 255.0,
-                             cfg.lineColor.a / 255.0);
+    setSource(context, cfg.lineColor);
     const Zel::PointF pixel = _getPixel(worldPoint);
     if (orientation == Orientation::Horizontal) {
         context->move_to(0, pixel.y);

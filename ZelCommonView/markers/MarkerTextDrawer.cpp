@@ -1,14 +1,11 @@
 #include <ZelCommonView/markers/MarkerTextDrawer.h>
 
 #include <ZelCommonView/markers/MarkerDrawerCfg.h>
+#include <ZelCommonView/plot/CairoColor.h>
 
 namespace ZelView {
 
 namespace {
-
-void setSource(const Cairo::RefPtr<Cairo::Context>& context, Zel::Color color) {
-    context->set_source_rgba(color.r / 255.0, color.g / 255.0, color.b / 255.0, color.a / 255.0);
-}
 
 Zel::PointF topLeftOf(Zel::PointF centre, Zel::PointF size) {
     return {centre.x - 0.5f * size.x, centre.y - 0.5f * size.y};

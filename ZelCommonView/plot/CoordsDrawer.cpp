@@ -1,5 +1,6 @@
 #include <ZelCommonView/plot/CoordsDrawer.h>
 
+#include <ZelCommonView/plot/CairoColor.h>
 #include <ZelCommonView/plot/CoordsConverter.h>
 #include <ZelCommonView/plot/CoordsStepsCalc.h>
 
@@ -27,8 +28,7 @@ void CoordsDrawer::draw(const Cairo::RefPtr<Cairo::Context>& context) {
     static const std::vector<double> dashes{5.0};
 
     context->set_antialias(Cairo::ANTIALIAS_NONE);
-    context->set_source_rgba(cfg.color.r / 255.0, cfg.color.g / 255.0, cfg.color.b / 255.0,
-                             cfg.color.a / 255.0);
+    setSource(context, cfg.color);
     context->set_font_size(cfg.fontSize);
     context->set_line_width(cfg.axisLineWidth);
     _drawAxis(context);

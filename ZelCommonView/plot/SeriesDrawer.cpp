@@ -1,5 +1,6 @@
 #include <ZelCommonView/plot/SeriesDrawer.h>
 
+#include <ZelCommonView/plot/CairoColor.h>
 #include <ZelCommonView/plot/CoordsConverter.h>
 
 #include <gtkmm/widget.h>
@@ -10,13 +11,9 @@ namespace ZelView {
 
 namespace {
 
-void setSource(const Cairo::RefPtr<Cairo::Context>& context, Zel::Color color, double alpha) {
-    context->set_source_rgba(color.r / 255.0, color.g / 255.0, color.b / 255.0, alpha);
-}
-
 void setLine(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series) {
     context->set_line_width(series.thickness);
-    setSource(context, series.color, series.color.a / 255.0);
+    setSource(context, series.color);
 }
 
 /// Adds a path element of its own for each segment: what is joined or merged is seen in the pixels. The cairo
