@@ -30,6 +30,14 @@ T* findWidget(Gtk::Widget& widget) {
     return found;
 }
 
+/// Legend rows stand on the colours of their signals, and those of binaries beside rows of 16 pixels.
+void loadStyle() {
+    const auto provider = Gtk::CssProvider::create();
+    provider->load_from_data(".legend { color: white; font-size: 11px; min-height: 16px; padding: 0 6px; }");
+    Gtk::StyleContext::add_provider_for_screen(Gdk::Screen::get_default(), provider,
+                                               GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+}
+
 std::string summaryOf(const record::Record& record) {
     return std::to_string(record.analogs.size()) + " " + words::analogs() + ", " +
            std::to_string(record.binaries.size()) + " " + words::binaries() + ", " +
@@ -48,6 +56,7 @@ std::string warningsOf(const record::Record& record) {
 } // namespace
 
 MainWindow::MainWindow(const std::string& title) {
+    loadStyle();
     set_title(title);
     set_default_size(1280, 860);
     status.set_halign(Gtk::ALIGN_START);

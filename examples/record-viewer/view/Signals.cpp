@@ -145,6 +145,7 @@ Oscillogram makeOscillogram(record::Record& record) {
 
     const std::map<std::string, Scale> scales = scalesOf(record);
     const Quantity upper = upperQuantity(record);
+    std::array<std::size_t, 2> countInArea{};
     for (record::AnalogChannel& channel : record.analogs) {
         auto curve = makeCurve(channel, record.time, limits.from);
         const auto scale = scales.find(channel.unit);
@@ -155,7 +156,7 @@ Oscillogram makeOscillogram(record::Record& record) {
             for (Zel::PointF& point : curve->points)
                 point.y = static_cast<float>(point.y * scale->second.factor);
         curve->drawAreaIndex = quantityOf(channel.unit) == upper ? 0 : 1;
-        curve->color = colorOf(oscillogram.series.size());
+        curve->color = colorOf(countInArea[curve->drawAreaIndex]++);
         oscillogram.series.push_back(std::move(curve));
     }
     for (std::size_t i = 0; i < record.binaries.size(); ++i) {
