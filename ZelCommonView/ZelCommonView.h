@@ -40,8 +40,10 @@
 #include <ZelCommonView/oscillogram/ButtonsToolbar.h>
 #include <ZelCommonView/oscillogram/DrawAreaSections.h>
 #include <ZelCommonView/oscillogram/DrawAreaSynchronizer.h>
+#include <ZelCommonView/oscillogram/IOscillograph.h>
 #include <ZelCommonView/oscillogram/IntervalDrawerSynchronizer.h>
 #include <ZelCommonView/oscillogram/MarkerDrawerSynchronizer.h>
+#include <ZelCommonView/oscillogram/Oscillograph.h>
 #include <ZelCommonView/oscillogram/PackableDrawArea.h>
 #include <ZelCommonView/oscillogram/RangeScrollbar.h>
 #include <ZelCommonView/oscillogram/RangeSlider.h>

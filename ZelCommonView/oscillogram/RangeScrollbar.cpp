@@ -30,6 +30,10 @@ void RangeScrollbar::setRange(double a, double b) {
     slider.incSize();
 }
 
+void RangeScrollbar::showRange(float from, float to) {
+    slider.showRange(from, to);
+}
+
 void RangeScrollbar::setMax(float max) {
     slider.setMaxValue(max);
 }

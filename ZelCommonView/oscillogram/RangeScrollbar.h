@@ -28,6 +28,8 @@ public:
     /// it: a caller reads back more than it has set, and may hear of two changes. That is meant.
     void setRange(float a, float b);
     void setRange(double a, double b);
+    /// Shows exactly this range and reports it once, as `RangeSlider::showRange` does.
+    void showRange(float from, float to);
 
     /// Sets the duration of the record, as `RangeSlider::setMaxValue` does. Throws "setMaxValue", a
     /// `const char*`, below 0.

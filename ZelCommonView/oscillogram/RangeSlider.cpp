@@ -45,6 +45,22 @@ void RangeSlider::setRange(double a, double b) {
     adjustment->changed();
 }
 
+void RangeSlider::showRange(float from, float to) {
+    if (!(from <= to))
+        throw "showRange";
+    if (disabled)
+        return;
+    const double upper = adjustment->get_upper();
+    const double start = std::clamp<double>(from, 0, upper);
+    const double end = std::clamp<double>(to, 0, upper);
+    // Start and length go together, so that neither is limited by the former value of the other.
+    valueChanged.block();
+    adjustment->configure(start, adjustment->get_lower(), upper, adjustment->get_step_increment(),
+                          adjustment->get_page_increment(), end - start);
+    valueChanged.unblock();
+    _report(static_cast<float>(start), static_cast<float>(end));
+}
+
 void RangeSlider::setMaxValue(float max) {
     if (max < 0)
         throw "setMaxValue";
@@ -82,6 +98,10 @@ void RangeSlider::_onRangeChanged() {
     // A page that was set anew without a change must not repaint every plot.
     if (start == rangeStart && end == rangeEnd)
         return;
+    _report(start, end);
+}
+
+void RangeSlider::_report(float start, float end) {
     rangeStart = start;
     rangeEnd = end;
     signalRangeChanged.emit(start, end);

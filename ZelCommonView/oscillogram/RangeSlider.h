@@ -32,6 +32,10 @@ public:
     void setRange(float a, float b);
     /// Shows what lies between `a` and `b`, with the same order and reports as the other form.
     void setRange(double a, double b);
+    /// Shows exactly what lies between `from` and `to` and reports it once, also if it is shown already. What
+    /// reaches beyond the duration is cut; a disabled slider does nothing. Throws "showRange", a
+    /// `const char*`, unless both are numbers and `from` is not above `to`.
+    void showRange(float from, float to);
 
     /// Sets the duration and shows the whole record. 0 disables the slider and leaves its range. The duration
     /// that is set already changes nothing, not even a disabled slider: so a first duration of exactly 1
@@ -47,6 +51,7 @@ public:
 
 private:
     void _onRangeChanged();
+    void _report(float start, float end);
     void _setPageSize(float size);
 
     Glib::RefPtr<Gtk::Adjustment> adjustment; ///< lower 0, upper the duration, value the start

@@ -134,6 +134,14 @@ TEST_F(RangeScrollbarTest, ARangeThatCanMoveIsToldOfTwice) {
     EXPECT_EQ(current(), told[1]);
 }
 
+TEST_F(RangeScrollbarTest, AShownRangeIsExactAndToldOfOnce) {
+    range.setMax(100);
+    told.clear();
+    range.showRange(10, 20);
+    EXPECT_EQ(told, (Ranges{{10, 20}}));
+    EXPECT_EQ(current(), Range(10, 20));
+}
+
 TEST_F(RangeScrollbarTest, WithoutADurationARangeIsStoredAndNotReported) {
     range.setRange(10.0f, 20.0f);
     EXPECT_TRUE(told.empty());

@@ -261,3 +261,72 @@ TEST_F(RangeSliderOfARecord, TheAdjustmentMayOutliveTheSlider) {
     adjustment->set_value(20);
     EXPECT_EQ(adjustment->get_value(), 20);
 }
+
+TEST_F(RangeSliderOfARecord, ShownExactlyARangeIsReportedOnce) {
+    slider.showRange(10, 20);
+    EXPECT_EQ(told, (Ranges{{10, 20}}));
+    EXPECT_EQ(range(), Range(10, 20));
+    EXPECT_EQ(adjustment->get_value(), 10);
+    EXPECT_EQ(adjustment->get_page_size(), 10);
+    EXPECT_EQ(adjustment->get_upper(), 100);
+    slider.showRange(60, 90);
+    slider.showRange(0, 100);
+    EXPECT_EQ(told, (Ranges{{10, 20}, {60, 90}, {0, 100}}));
+    EXPECT_EQ(adjustment->get_value(), 0);
+    EXPECT_EQ(adjustment->get_page_size(), 100);
+}
+
+TEST_F(RangeSliderOfARecord, WhatIsShownAlreadyIsReportedToo) {
+    // A range that was only stored does not stand in the way.
+    slider.setRange(10.0, 20.0);
+    told.clear();
+    slider.showRange(10, 20);
+    slider.showRange(10, 20);
+    EXPECT_EQ(told, (Ranges{{10, 20}, {10, 20}}));
+}
+
+TEST_F(RangeSliderOfARecord, AfterAShownRangeTheButtonsGoOnFromIt) {
+    slider.showRange(10, 20);
+    told.clear();
+    slider.incSize();
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0].first, 10);
+    EXPECT_FLOAT_EQ(told[0].second, 21);
+    adjustment->set_value(50);
+    EXPECT_EQ(told.back().first, 50);
+}
+
+TEST_F(RangeSliderOfARecord, WhatReachesBeyondTheRecordIsCut) {
+    slider.showRange(-5, 20);
+    slider.showRange(90, std::numeric_limits<float>::infinity());
+    slider.showRange(200, 300);
+    slider.showRange(30, 30);
+    EXPECT_EQ(told, (Ranges{{0, 20}, {90, 100}, {100, 100}, {30, 30}}));
+}
+
+TEST_F(RangeSliderOfARecord, ARangeThatIsNoneThrowsAndChangesNothing) {
+    slider.showRange(10, 20);
+    told.clear();
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    for (const Range& bad : Ranges{{20, 10}, {nan, 10}, {10, nan}})
+        EXPECT_EQ(thrownBy([&] { slider.showRange(bad.first, bad.second); }), "showRange");
+    EXPECT_TRUE(told.empty());
+    EXPECT_EQ(range(), Range(10, 20));
+    EXPECT_EQ(adjustment->get_page_size(), 10);
+}
+
+TEST_F(RangeSliderTest, WithoutADurationNoRangeIsShown) {
+    slider.showRange(0, 0.5f);
+    EXPECT_TRUE(told.empty());
+    EXPECT_EQ(range(), Range(0, 0));
+    EXPECT_EQ(adjustment->get_page_size(), 1);
+}
+
+TEST_F(RangeSliderOfARecord, AListenerThatThrowsLeavesTheSliderWorking) {
+    sigc::connection thrower = slider.signalRangeChanged.connect([](float, float) { throw "listener"; });
+    EXPECT_EQ(thrownBy([this] { slider.showRange(10, 20); }), "listener");
+    thrower.disconnect();
+    told.clear();
+    adjustment->set_value(50);
+    EXPECT_EQ(told, (Ranges{{50, 60}}));
+}

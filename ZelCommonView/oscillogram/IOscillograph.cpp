@@ -1,0 +1,9 @@
+#include <ZelCommonView/oscillogram/IOscillograph.h>
+
+namespace ZelView {
+
+IOscillograph::IOscillograph() = default;
+
+IOscillograph::~IOscillograph() = default;
+
+} // namespace ZelView
