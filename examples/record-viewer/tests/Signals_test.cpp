@@ -105,3 +105,42 @@ TEST(Signals, AddsThePhaseToANameThatDoesNotTellIt) {
     EXPECT_EQ(sections[0].series[0]->name, "Line 1 (A)");
     EXPECT_EQ(sections[0].series[1]->name, "IA");
 }
+
+TEST(Oscillogram, PutsVoltagesAboveAndEverythingElseBelow) {
+    record::Record record = makeRecord();
+    record.analogs = {analog("Ia", "A", {20, 30, 40, 50}), analog("F", "Hz", {50, 50, 50, 50}),
+                      analog("Ua", "V", {5000, 60000, 7, 8})};
+    record.binaries = {binary("Trip", {false, true, true, false}), binary("Start", {true, true, true, true})};
+    const viewer::Oscillogram oscillogram = viewer::makeOscillogram(record);
+    ASSERT_EQ(oscillogram.series.size(), 5u);
+    EXPECT_EQ(oscillogram.series[0]->drawAreaIndex, 1u);
+    EXPECT_EQ(oscillogram.series[1]->drawAreaIndex, 1u);
+    EXPECT_EQ(oscillogram.series[2]->drawAreaIndex, 0u);
+    EXPECT_EQ(oscillogram.series[2]->name, "Ua, kV");
+    EXPECT_EQ(oscillogram.series[2]->points[1].y, 60);
+    EXPECT_EQ(oscillogram.series[0]->name, "Ia, A");
+    EXPECT_EQ(oscillogram.series[3]->type, Zel::SeriesType::Binary);
+    EXPECT_EQ(oscillogram.series[4]->index, 1u);
+    EXPECT_EQ(oscillogram.duration, 0.003f);
+    EXPECT_FALSE(oscillogram.fault);
+}
+
+TEST(Oscillogram, WithoutVoltagesTheFirstQuantityStandsAbove) {
+    record::Record record = makeRecord();
+    record.analogs = {analog("F", "Hz", {50, 50, 50, 50}), analog("Ia", "A", {2, 3, 4, 5})};
+    const viewer::Oscillogram oscillogram = viewer::makeOscillogram(record);
+    EXPECT_EQ(oscillogram.series[0]->drawAreaIndex, 0u);
+    EXPECT_EQ(oscillogram.series[1]->drawAreaIndex, 1u);
+    EXPECT_EQ(oscillogram.series[1]->name, "Ia, mA");
+    EXPECT_EQ(oscillogram.series[1]->points[0].y, 2000);
+}
+
+TEST(Oscillogram, CountsTimeFromTheEarliestSample) {
+    record::Record record;
+    record.time = record::TimeAxis(3, {}, {-2000, -1000, 500}, 1e-6);
+    record.analogs = {analog("Ia", "A", {20, 30, 40})};
+    const viewer::Oscillogram oscillogram = viewer::makeOscillogram(record);
+    EXPECT_EQ(oscillogram.series[0]->points.front().x, 0);
+    EXPECT_FLOAT_EQ(oscillogram.series[0]->points.back().x, 0.0025f);
+    EXPECT_FLOAT_EQ(oscillogram.duration, 0.0025f);
+}

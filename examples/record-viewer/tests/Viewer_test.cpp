@@ -117,12 +117,14 @@ TEST_F(ViewerTest, ArgumentsThatMakeNoSenseGetASentence) {
     EXPECT_EQ(complaint("a b"), "record-viewer: one record at a time can be opened, and 2 were named\n");
     EXPECT_EQ(complaint("--axis x a"),
               "record-viewer: --axis takes \"rates\" or \"stamps\", and not \"x\"\n");
+    EXPECT_EQ(complaint("--lang de a"), "record-viewer: --lang takes \"en\" or \"ru\", and not \"de\"\n");
     EXPECT_NE(complaint("--nonsense a").find("--nonsense"), std::string::npos);
 }
 
 TEST_F(ViewerTest, ExplainsItself) {
     const Result result = run("--help");
     EXPECT_EQ(result.code, 0);
-    for (const char* option : {"--info", "--json", "--png", "--salvage", "--code-page", "--axis", "FILE"})
+    for (const char* option :
+         {"--info", "--json", "--png", "--salvage", "--code-page", "--axis", "--lang", "FILE"})
         EXPECT_NE(result.output.find(option), std::string::npos) << option;
 }

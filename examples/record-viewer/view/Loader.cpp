@@ -40,12 +40,13 @@ record::Record loadBehindDialog(Zel::IView& parent, const std::string& file, rec
     {
         Zel::WaitingDialogPresenter dialog;
         int shown = -1;
+        const std::function<bool(double)> own = std::move(options.progress);
         options.progress = [&](double fraction) {
             const int percent = static_cast<int>(fraction * 100);
             if (percent != shown)
                 dialog.setMessage(progressText(percent));
             shown = percent;
-            return !isStopped;
+            return (!own || own(fraction)) && !isStopped;
         };
         const auto work = [&] {
             try {

@@ -18,8 +18,8 @@ constexpr std::uintmax_t largeFile = 4'000'000;
 bool isLarge(const std::string& file);
 
 /// Reads the record on a thread of its own, behind a dialog over the parent's window that tells how far it is
-/// and can be cancelled. What the reader throws is thrown here; cancelling, also by Escape, throws
-/// `record::Cancelled`.
+/// and can be cancelled. A progress callback of the options is called as well, on that thread. What the
+/// reader throws is thrown here; cancelling, also by Escape, throws `record::Cancelled`.
 record::Record loadBehindDialog(Zel::IView& parent, const std::string& file, record::Options options);
 
 } // namespace viewer
