@@ -55,7 +55,7 @@ bool isDisplayThere() {
 /// Reads a large record behind a dialog over the window; false if there is nothing to show.
 bool loadInto(viewer::MainWindow& window, const viewer::Arguments& arguments) {
     try {
-        window.setRecord(
+        window.page.setRecord(
             withAxis(viewer::loadBehindDialog(window, arguments.file, optionsOf(arguments)), arguments.axis));
         return true;
     } catch (const record::Cancelled&) {
@@ -79,7 +79,7 @@ int show(const viewer::Arguments& arguments) {
     viewer::MainWindow window(std::filesystem::path(arguments.file).filename().string());
     int code = Success;
     if (record)
-        window.setRecord(std::move(*record));
+        window.page.setRecord(std::move(*record));
     else
         Glib::signal_idle().connect_once([&] {
             if (loadInto(window, arguments))
@@ -98,6 +98,8 @@ int writePictures(const viewer::Arguments& arguments, record::Record record) {
     const std::string extension = Glib::ustring(path.extension().string()).lowercase();
     const bool isPair = extension == ".cfg" || extension == ".dat";
     const std::string stem = (isPair ? path.stem() : path.filename()).string();
+    record::Record copy = record; // both ways of painting take the samples
+    std::cout << viewer::writeOscillogram(std::move(copy), arguments.pictureFolder, stem) << "\n";
     for (const std::string& picture :
          viewer::writePictures(viewer::makeSections(record), arguments.pictureFolder, stem))
         std::cout << picture << "\n";

@@ -48,13 +48,13 @@ TEST_F(LoaderTest, ReadsOnAnotherThreadAndShowsTheRecord) {
     record::Record record = viewer::loadBehindDialog(window, large, {});
     EXPECT_EQ(record.size(), 400'000u);
     EXPECT_TRUE(test::findDialogs().empty());
-    window.setRecord(std::move(record));
+    window.page.setRecord(std::move(record));
     test::settle();
-    EXPECT_THAT(window.status.get_text().raw(), testing::HasSubstr("400000 samples"));
-    EXPECT_THAT(window.status.get_text().raw(), testing::HasSubstr("shown 0.0000"));
+    EXPECT_THAT(window.page.status.get_text().raw(), testing::HasSubstr("400000 samples"));
+    EXPECT_THAT(window.page.status.get_text().raw(), testing::HasSubstr("shown 0.0000"));
     float from = -1;
     float to = -1;
-    window.oscillograph.getSeriesRange(from, to);
+    window.page.oscillograph.getSeriesRange(from, to);
     EXPECT_EQ(from, 0);
     EXPECT_FLOAT_EQ(to, 399.999f);
 }
@@ -70,20 +70,20 @@ TEST_F(LoaderTest, WhatTheReaderComplainsOfReachesTheCaller) {
 }
 
 TEST_F(LoaderTest, AnotherRecordReplacesTheFirst) {
-    window.setRecord(record::open(folder.path / "small.csv"));
+    window.page.setRecord(record::open(folder.path / "small.csv"));
     test::settle();
-    EXPECT_EQ(window.oscillogram.series.size(), 1u);
-    window.setRecord(record::open(folder.path / "small.csv"));
+    EXPECT_EQ(window.page.oscillogram.series.size(), 1u);
+    window.page.setRecord(record::open(folder.path / "small.csv"));
     test::settle();
-    EXPECT_EQ(window.oscillogram.series.size(), 1u);
-    EXPECT_THAT(window.status.get_text().raw(), testing::HasSubstr("3 samples"));
+    EXPECT_EQ(window.page.oscillogram.series.size(), 1u);
+    EXPECT_THAT(window.page.status.get_text().raw(), testing::HasSubstr("3 samples"));
 }
 
 TEST_F(LoaderTest, ItsWordsAreThoseOfTheLanguage) {
     lng::language = 1;
-    window.setRecord(record::open(folder.path / "small.csv"));
+    window.page.setRecord(record::open(folder.path / "small.csv"));
     lng::language = 0;
-    EXPECT_THAT(window.status.get_text().raw(), testing::HasSubstr("отсчётов"));
+    EXPECT_THAT(window.page.status.get_text().raw(), testing::HasSubstr("отсчётов"));
 }
 
 TEST_F(LoaderTest, CancellingStopsTheReading) {

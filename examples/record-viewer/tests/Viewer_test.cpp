@@ -66,7 +66,12 @@ TEST_F(ViewerTest, WritesAPictureAndPrintsItsPath) {
     const Result result = run("--png " + file("pictures") + " " + file("small.cfg"));
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.output, (folder.path / "pictures" / "small.png\n").string());
+    EXPECT_EQ(result.output, (folder.path / "pictures" / "small-oscillogram.png\n").string() +
+                                 (folder.path / "pictures" / "small.png\n").string());
+    const test::Picture oscillogram = test::pictureOfFile(folder.path / "pictures" / "small-oscillogram.png");
+    EXPECT_EQ(oscillogram.width, 1400);
+    EXPECT_EQ(oscillogram.height, 900);
+    EXPECT_EQ(oscillogram.at(700, 200)[0], 211); // a plot, and not an empty page
     const test::Picture picture = test::pictureOfFile(folder.path / "pictures" / "small.png");
     EXPECT_EQ(picture.width, 1400);
     // The curve of the current rises from its first sample to a corner and falls again.

@@ -1,112 +1,11 @@
 #include "MainWindow.h"
 
-#include "Words.h"
-
-#include <ZelCommonView/oscillogram/SeriesGroupDrawArea.h>
-#include <ZelCommonView/oscillogram/SeriesSections.h>
-
-#include <iomanip>
-#include <sstream>
-
 namespace viewer {
 
-namespace {
-
-constexpr int rowHeight = 16;         // of a binary, pixels
-constexpr int binaryMargins = 40;     // above and below the rows, pixels
-constexpr int maxBinaryHeight = 8000; // a canvas and its pictures stay within reason, pixels
-
-/// The first widget of the type below a container, or null.
-template <typename T>
-T* findWidget(Gtk::Widget& widget) {
-    if (T* const found = dynamic_cast<T*>(&widget))
-        return found;
-    T* found = nullptr;
-    if (auto* const container = dynamic_cast<Gtk::Container*>(&widget))
-        container->forall([&found](Gtk::Widget& child) {
-            if (!found)
-                found = findWidget<T>(child);
-        });
-    return found;
-}
-
-/// Legend rows stand on the colours of their signals, and those of binaries beside rows of 16 pixels.
-void loadStyle() {
-    const auto provider = Gtk::CssProvider::create();
-    provider->load_from_data(".legend { color: white; font-size: 11px; min-height: 16px; padding: 0 6px; }");
-    Gtk::StyleContext::add_provider_for_screen(Gdk::Screen::get_default(), provider,
-                                               GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
-}
-
-std::string summaryOf(const record::Record& record) {
-    return std::to_string(record.analogs.size()) + " " + words::analogs() + ", " +
-           std::to_string(record.binaries.size()) + " " + words::binaries() + ", " +
-           std::to_string(record.size()) + " " + words::samples();
-}
-
-std::string warningsOf(const record::Record& record) {
-    if (record.warnings.empty())
-        return "";
-    if (record.warnings.size() == 1)
-        return "  ⚠ " + record.warnings.front();
-    return "  ⚠ " + std::to_string(record.warnings.size()) + " " + words::warnings() + ": " +
-           record.warnings.front();
-}
-
-} // namespace
-
 MainWindow::MainWindow(const std::string& title) {
-    loadStyle();
     set_title(title);
     set_default_size(1280, 860);
-    status.set_halign(Gtk::ALIGN_START);
-    status.set_ellipsize(Pango::ELLIPSIZE_END);
-    status.property_margin() = 4;
-    oscillograph.signalSeriesRangeChanged.connect(sigc::mem_fun(*this, &MainWindow::_showRange));
-    page.pack_start(oscillograph, Gtk::PACK_EXPAND_WIDGET);
-    page.pack_start(status, Gtk::PACK_SHRINK);
     add(page);
-    show_all_children();
-}
-
-MainWindow::~MainWindow() = default;
-
-void MainWindow::setRecord(record::Record record) {
-    std::string all;
-    for (const std::string& warning : record.warnings)
-        all += (all.empty() ? "" : "\n") + warning;
-    status.set_tooltip_text(all);
-    summary = summaryOf(record) + warningsOf(record);
-    const std::size_t rows = record.binaries.size();
-
-    oscillograph.clearSeries();
-    oscillogram = makeOscillogram(record);
-    for (const auto& series : oscillogram.series)
-        oscillograph.addSeries(series.get());
-    _growBinaryArea(rows);
-    oscillograph.setSeriesDuration(oscillogram.duration);
-    if (oscillogram.fault)
-        oscillograph.setHorizontalInterval(static_cast<float>(oscillogram.fault->from),
-                                           static_cast<float>(oscillogram.fault->to));
-    oscillograph.showRange(0, oscillogram.duration);
-    if (!(oscillogram.duration > 0))
-        status.set_text(summary);
-}
-
-void MainWindow::_showRange(float from, float to) {
-    std::ostringstream text;
-    text << std::fixed << std::setprecision(4) << summary << "  |  " << words::shown() << " " << from << " – "
-         << to << " " << words::seconds();
-    status.set_text(text.str());
-}
-
-void MainWindow::_growBinaryArea(std::size_t rows) {
-    auto* const binaries = findWidget<ZelView::BinarySections>(oscillograph);
-    if (!binaries || rows == 0)
-        return;
-    const auto wanted = static_cast<long>(rows) * rowHeight + binaryMargins;
-    for (ZelView::SeriesGroupDrawArea* area : binaries->getDrawAreas())
-        area->set_size_request(-1, static_cast<int>(std::min<long>(wanted, maxBinaryHeight)));
 }
 
 } // namespace viewer

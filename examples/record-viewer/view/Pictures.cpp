@@ -1,5 +1,6 @@
 #include "Pictures.h"
 
+#include "RecordPage.h"
 #include "SignalPlot.h"
 
 #include <gtkmm.h>
@@ -11,6 +12,7 @@ namespace viewer {
 namespace {
 
 constexpr int pictureWidth = 1400;      // pixels
+constexpr int oscillogramHeight = 900;  // pixels
 constexpr int maxPictureHeight = 12000; // pixels; a window can't be much higher than twice that
 
 using Plots = std::vector<std::unique_ptr<SignalPlot>>;
@@ -31,18 +33,13 @@ std::vector<Plots> packIntoPictures(std::vector<Section> sections) {
     return pictures;
 }
 
-/// Takes each step of the main loop that is due, and waits for the next frame as long as the window has not
+/// What the widget shows in a window that is on no screen, once `last`, which is painted last, has been
 /// painted.
-Glib::RefPtr<Gdk::Pixbuf> takePicture(Plots& plots) {
+Glib::RefPtr<Gdk::Pixbuf> takePicture(Gtk::Widget& widget, Gtk::Widget& last) {
     Gtk::OffscreenWindow window;
-    Gtk::Box box(Gtk::ORIENTATION_VERTICAL);
-    for (const auto& plot : plots)
-        box.pack_start(*plot, Gtk::PACK_SHRINK);
-    box.set_size_request(pictureWidth, -1);
-    window.add(box);
-
+    window.add(widget);
     bool isPainted = false;
-    plots.back()->signal_draw().connect(
+    last.signal_draw().connect(
         [&](const Cairo::RefPtr<Cairo::Context>&) {
             isPainted = true;
             return false;
@@ -53,16 +50,39 @@ Glib::RefPtr<Gdk::Pixbuf> takePicture(Plots& plots) {
         Gtk::Main::iteration();
     while (Gtk::Main::events_pending())
         Gtk::Main::iteration();
-    return window.get_pixbuf();
+    const auto picture = window.get_pixbuf();
+    window.remove();
+    return picture;
+}
+
+Glib::RefPtr<Gdk::Pixbuf> takePicture(Plots& plots) {
+    Gtk::Box box(Gtk::ORIENTATION_VERTICAL);
+    for (const auto& plot : plots)
+        box.pack_start(*plot, Gtk::PACK_SHRINK);
+    box.set_size_request(pictureWidth, -1);
+    return takePicture(box, *plots.back());
+}
+
+void makeFolder(const std::string& folder) {
+    if (g_mkdir_with_parents(folder.c_str(), 0777) != 0)
+        throw Glib::FileError(Glib::FileError::FAILED, "the folder can't be made");
 }
 
 } // namespace
 
+std::string writeOscillogram(record::Record record, const std::string& folder, const std::string& stem) {
+    makeFolder(folder);
+    RecordPage page;
+    page.setRecord(std::move(record));
+    page.set_size_request(pictureWidth, oscillogramHeight);
+    const std::string path = Glib::build_filename(folder, stem + "-oscillogram.png");
+    takePicture(page, page)->save(path, "png");
+    return path;
+}
+
 std::vector<std::string> writePictures(std::vector<Section> sections, const std::string& folder,
                                        const std::string& stem) {
-    if (g_mkdir_with_parents(folder.c_str(), 0777) != 0)
-        throw Glib::FileError(Glib::FileError::FAILED, "the folder can't be made");
-
+    makeFolder(folder);
     std::vector<std::string> paths;
     std::vector<Plots> pictures = packIntoPictures(std::move(sections));
     for (std::size_t i = 0; i < pictures.size(); ++i) {

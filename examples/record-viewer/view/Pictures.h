@@ -7,6 +7,10 @@
 
 namespace viewer {
 
+/// Paints the oscillogram as the window shows it and writes "<stem>-oscillogram.png" into the folder, like
+/// `writePictures`. Returns the path.
+std::string writeOscillogram(record::Record record, const std::string& folder, const std::string& stem);
+
 /// Paints all sections without a visible window and writes them as PNG files into the folder, which is made
 /// if it is not there: "<stem>.png", or "<stem>-1.png" and so on where one picture would be too high. Returns
 /// the paths. Throws `Glib::Error` where a file can't be written. Needs a display.

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Signals.h"
+
+#include <ZelCommonView/oscillogram/Oscillograph.h>
+
+#include <gtkmm/box.h>
+#include <gtkmm/label.h>
+
+#include <string>
+
+namespace viewer {
+
+/// Shows one record on an oscillograph, with what was odd about it in a line at the bottom. It can be on the
+/// screen before there is a record.
+class RecordPage : public Gtk::Box {
+public:
+    RecordPage();
+    ~RecordPage() override;
+
+    /// Shows this record in place of the former one, from its beginning to its end.
+    void setRecord(record::Record record);
+
+private:
+    void _showRange(float from, float to);
+    void _growBinaryArea(std::size_t rows);
+
+    Oscillogram oscillogram; ///< outlives the oscillograph, which shows its series
+    std::string summary;
+    ZelView::Oscillograph oscillograph;
+    Gtk::Label status;
+};
+
+} // namespace viewer
