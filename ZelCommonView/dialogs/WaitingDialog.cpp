@@ -61,8 +61,10 @@ void WaitingDialog::_compose() {
 void WaitingDialog::_onCancelButtonClicked() {
     cancelButton.set_label(DialogLocalization::cancelled());
     cancelButton.set_sensitive(false);
-    // Last: what hears it may destroy the dialog.
-    signalCancel.emit();
+    // Last, and by another name: what hears it may destroy the dialog, and a signal that dies while it is
+    // emitted would leak.
+    const sigc::signal<void> signal = signalCancel;
+    signal.emit();
 }
 
 } // namespace Zel

@@ -47,8 +47,10 @@ void WaitingDialogPresenter::close() {
         return;
     dialog->response(Gtk::RESPONSE_OK);
     dialog.reset();
-    // Last: what hears it may destroy the presenter.
-    signalClosedDialog.emit();
+    // Last, and by another name: what hears it may destroy the presenter, and a signal that dies while it is
+    // emitted would leak.
+    const sigc::signal<void> signal = signalClosedDialog;
+    signal.emit();
 }
 
 void WaitingDialogPresenter::setMessage(const std::string& message) {

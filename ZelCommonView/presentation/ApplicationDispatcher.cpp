@@ -30,9 +30,11 @@ IApplicationDispatcher::~IApplicationDispatcher() = default;
 ApplicationDispatcher::ApplicationDispatcher() = default;
 
 ApplicationDispatcher::~ApplicationDispatcher() {
-    // Only the thread that made it may destroy it. A process that exits on another one keeps it to the end.
-    if (Glib::Thread::self() != mainThread)
-        static_cast<void>(dispatcher.release());
+    // Only the thread that made it may destroy it. A process that exits on another one keeps it to the end,
+    // in a place where it doesn't count as lost.
+    static std::atomic<Glib::Dispatcher*> kept;
+    if (dispatcher && Glib::Thread::self() != mainThread)
+        kept = dispatcher.release();
 }
 
 ApplicationDispatcher& ApplicationDispatcher::getInstance() {
