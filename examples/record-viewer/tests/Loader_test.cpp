@@ -79,6 +79,16 @@ TEST_F(LoaderTest, AnotherRecordReplacesTheFirst) {
     EXPECT_THAT(window.page.status.get_text().raw(), testing::HasSubstr("3 samples"));
 }
 
+TEST_F(LoaderTest, ARecordOfExactlyOneSecondIsShownWhole) {
+    test::writeFile(folder.path / "second.csv", "time,A\ns,A\n0,20\n0.5,30\n1,40\n");
+    window.page.setRecord(record::open(folder.path / "second.csv"));
+    float from = -1;
+    float to = -1;
+    window.page.oscillograph.getSeriesRange(from, to);
+    EXPECT_EQ(from, 0);
+    EXPECT_FLOAT_EQ(to, 1);
+}
+
 TEST_F(LoaderTest, ItsWordsAreThoseOfTheLanguage) {
     lng::language = 1;
     window.page.setRecord(record::open(folder.path / "small.csv"));

@@ -7,6 +7,7 @@
 
 #include <gtkmm.h>
 
+#include <cmath>
 #include <iomanip>
 #include <sstream>
 
@@ -83,6 +84,10 @@ void RecordPage::setRecord(record::Record record) {
     for (const auto& series : oscillogram.series)
         oscillograph.addSeries(series.get());
     _growBinaryArea(rows);
+    // A new oscillograph takes a duration of exactly 1 for the one it has and stays disabled; the next number
+    // shows the same.
+    if (oscillogram.duration == 1.0f)
+        oscillogram.duration = std::nextafter(1.0f, 2.0f);
     oscillograph.setSeriesDuration(oscillogram.duration);
     if (oscillogram.fault)
         oscillograph.setHorizontalInterval(static_cast<float>(oscillogram.fault->from),
