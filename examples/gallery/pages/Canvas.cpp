@@ -38,8 +38,8 @@ public:
         freeze.signal_toggled().connect(sigc::mem_fun(*this, &Canvas::_onOptions), true);
         through.signal_toggled().connect(sigc::mem_fun(*this, &Canvas::_onOptions), true);
         save.signal_clicked().connect(sigc::mem_fun(*this, &Canvas::_onSave), true);
-        for (Gtk::Widget* widget : std::initializer_list<Gtk::Widget*>{&one, &freeze, &through, &save})
-            buttons.pack_start(*widget, Gtk::PACK_SHRINK);
+        for (Gtk::Button* button : std::initializer_list<Gtk::Button*>{&one, &freeze, &through, &save})
+            buttons.pack_start(*button, Gtk::PACK_SHRINK);
         pack_start(buttons, Gtk::PACK_SHRINK);
         pack_start(canvas, Gtk::PACK_EXPAND_WIDGET);
     }
@@ -60,9 +60,9 @@ private:
 
     void _drawDisc(const Context& context, Disc& disc) const {
         ++disc.painted;
-        const double radius = canvas.get_allocated_height() * 0.25;
-        context->arc(disc.x * canvas.get_allocated_width(), disc.y * canvas.get_allocated_height(), radius, 0,
-                     2 * G_PI);
+        const double width = canvas.get_allocated_width();
+        const double height = canvas.get_allocated_height();
+        context->arc(disc.x * width, disc.y * height, height / 4, 0, 2 * G_PI);
         context->set_source_rgb(disc.red, disc.green, disc.blue);
         context->fill();
     }
@@ -77,7 +77,8 @@ private:
         context->set_font_size(14);
         context->set_source_rgb(0, 0, 0);
         for (const Disc& disc : discs) {
-            context->move_to(disc.x * canvas.get_allocated_width(), disc.y * canvas.get_allocated_height());
+            const double x = disc.x * canvas.get_allocated_width() - 40;
+            context->move_to(x, disc.y * canvas.get_allocated_height());
             context->show_text(words("painted: ", "нарисован: ") + std::to_string(disc.painted));
         }
     }

@@ -43,6 +43,11 @@ public:
                 sigc::bind(sigc::mem_fun(*this, &Curves::_onToggled), sigc::ref(flag)), true);
             buttons.pack_start(flag.button, Gtk::PACK_SHRINK);
         }
+        // Legends of one width put the same moment of both plots into one column.
+        for (ZelView::SeriesGroupDrawArea* plot : {&curvesPlot, &rowsPlot}) {
+            plot->setFragmentableCollectionGroup(legends);
+            plot->setFragmentableGroup(legendRows);
+        }
         pack_start(buttons, Gtk::PACK_SHRINK);
         pack_start(curvesPlot, Gtk::PACK_EXPAND_WIDGET);
         rowsPlot.set_size_request(-1, 80);
@@ -60,8 +65,8 @@ private:
             const float x = static_cast<float>(i) / 50;
             curve.points.push_back({x, 4 + 4 * std::sin(2 * x)});
         }
-        curve.name = "sin";
-        curve.color = {200, 80, 0, 255};
+        curve.name = words("Sine", "Синус");
+        curve.color = {240, 140, 60, 255};
         curve.thickness = 2;
         curvesPlot.addBorderable(curve);
         curvesPlot.addFragmentable(curve);
@@ -73,8 +78,8 @@ private:
         for (std::size_t i = 0; i < rows.size(); ++i) {
             rows[i].type = Zel::SeriesType::Binary;
             rows[i].index = i;
-            rows[i].name = "D" + std::to_string(i + 1);
-            rows[i].color = {0, 120, 60, 255};
+            rows[i].name = words("Input ", "Вход ") + std::to_string(i + 1);
+            rows[i].color = {80, 190, 120, 255};
             const float on = 2 + static_cast<float>(i);
             rows[i].points = {{0, 0}, {on, 1}, {on + 3, 0}, {10, 0}};
             rowsPlot.addBorderable(rows[i]);
@@ -93,6 +98,8 @@ private:
                                      {CoordsDrawerCfg::StepTextX, words("numbers of x", "числа x")},
                                      {CoordsDrawerCfg::StepTextY, words("numbers of y", "числа y")}}};
     Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 8};
+    ZelView::SizeGroupAdapter legends;
+    ZelView::SizeGroupAdapter legendRows;
     ZelView::SeriesGroupDrawArea curvesPlot;
     ZelView::SeriesGroupDrawArea rowsPlot;
     SwitchableGrid* grid = nullptr;

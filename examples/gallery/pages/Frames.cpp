@@ -20,6 +20,8 @@ public:
     Row(const char* title, const char* colour) : name(title), frame(text) {
         text.set_markup(Glib::ustring::compose("<span size='xx-large' color='%1'>%2</span>", colour, title));
         text.set_size_request(-1, 200);
+        frame.getWindow().set_shadow_type(Gtk::SHADOW_IN);
+        set_spacing(8);
         pack_start(name, Gtk::PACK_SHRINK);
         pack_start(frame, Gtk::PACK_EXPAND_WIDGET);
         // The toolbar is not part of the frame: it stands where the owner wants it.
@@ -60,7 +62,7 @@ private:
     void _onMoved(Gtk::Widget& widget) {
         if (&widget == &upper)
             report.set_text(Glib::ustring::compose(
-                words("The separator was moved %1 times", "Разделитель перемещён, раз: %1"), ++moves));
+                words("Reports of the separator: %1", "Сообщений разделителя: %1"), ++moves));
     }
 
     Row upper{words("Currents", "Токи"), "#b05000"};

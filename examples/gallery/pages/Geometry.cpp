@@ -64,9 +64,9 @@ public:
         grid.set_column_spacing(8);
         grid.set_column_homogeneous(true);
         grid.attach(proportionalTitle, 0, 0);
-        grid.attach(stretchableTitle, 1, 0);
+        grid.attach(stretchableTitle, 1, 0, 2, 1);
         grid.attach(proportional, 0, 1);
-        grid.attach(stretchable, 1, 1);
+        grid.attach(stretchable, 1, 1, 2, 1);
         for (FigureArea* area : {&proportional, &stretchable}) {
             area->set_vexpand();
             area->signalPointed.connect(sigc::mem_fun(*this, &Geometry::_onPointed));

@@ -38,8 +38,8 @@ private:
 class Markers : public Gtk::Box {
 public:
     Markers() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 8) {
-        ZelView::MarkerDrawer& upperMarkers = _fill(upper, upperCurve, {200, 80, 0, 255});
-        ZelView::MarkerDrawer& lowerMarkers = _fill(lower, lowerCurve, {0, 100, 180, 255});
+        ZelView::MarkerDrawer& upperMarkers = _fill(upper, upperCurve, {240, 140, 60, 255});
+        ZelView::MarkerDrawer& lowerMarkers = _fill(lower, lowerCurve, {90, 160, 230, 255});
         upper.addDrawer(std::make_unique<Threshold>(), ZelView::DrawerPosition::AfterFragments);
 
         upperMarkers.markerAdded.connect(sigc::mem_fun(*this, &Markers::_onAdded));
@@ -65,7 +65,10 @@ private:
             curve.points.push_back({x, 8 * std::exp(-x / 4) * std::fabs(std::cos(2 * x))});
         }
         curve.color = color;
-        curve.name = &plot == &upper ? "U" : "I";
+        curve.name = &plot == &upper ? words("Voltage", "Напряжение") : words("Current", "Ток");
+        // Legends of one width put the same moment of both plots into one column.
+        plot.setFragmentableCollectionGroup(legends);
+        plot.setFragmentableGroup(legendRows);
         plot.addBorderable(curve);
         plot.addFragmentable(curve);
         return markers;
@@ -87,6 +90,8 @@ private:
     Gtk::Label hint{words("Right button: menu. Left button on a label: move the marker.",
                           "Правая кнопка: меню. Левая кнопка на подписи: перемещение маркера."),
                     Gtk::ALIGN_START};
+    ZelView::SizeGroupAdapter legends;
+    ZelView::SizeGroupAdapter legendRows;
     ZelView::SeriesGroupDrawArea upper;
     ZelView::SeriesGroupDrawArea lower;
 };

@@ -45,8 +45,8 @@ private:
             const float x = static_cast<float>(i) / 50;
             curve.points.push_back({x, 5 + 3 * std::sin(x) + std::sin(7 * x)});
         }
-        curve.name = "I";
-        curve.color = {120, 60, 180, 255};
+        curve.name = words("Current", "Ток");
+        curve.color = {170, 120, 220, 255};
         plot.addBorderable(curve);
         plot.addFragmentable(curve);
     }

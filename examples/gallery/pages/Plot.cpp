@@ -35,7 +35,7 @@ public:
 
 private:
     void _onAdd() {
-        static const Zel::Color colors[] = {{220, 90, 60, 255}, {60, 140, 220, 255}, {60, 170, 90, 255}};
+        static const Zel::Color colors[] = {{240, 120, 90, 255}, {100, 170, 240, 255}, {90, 190, 120, 255}};
         const std::size_t number = series.size();
         Zel::Series& added = series.emplace_back(); // a list: the address must not change
         added.name = words("Signal ", "Сигнал ") + std::to_string(number + 1);

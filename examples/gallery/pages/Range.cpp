@@ -28,8 +28,8 @@ public:
             const float x = duration * static_cast<float>(i) / 2000;
             curve.points.push_back({x, std::sin(x * x / 2)});
         }
-        curve.name = "chirp";
-        curve.color = {0, 120, 120, 255};
+        curve.name = words("Chirp", "Сигнал");
+        curve.color = {60, 180, 170, 255};
         plot.setXBordersMode(ZelView::BordersMode::Manual);
         plot.setYBordersMode(ZelView::BordersMode::Manual);
         plot.setYBorders(-1.2f, 1.2f);
