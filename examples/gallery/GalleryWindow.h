@@ -21,8 +21,8 @@ public:
 private:
     std::list<PageView> views;
     Gtk::Box box;
-    Gtk::StackSidebar sidebar;
     Gtk::Stack stack;
+    Gtk::StackSidebar sidebar; ///< the first to go: it asks the stack for titles as long as there are pages
 };
 
 } // namespace gallery

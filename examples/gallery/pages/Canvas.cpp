@@ -33,7 +33,6 @@ public:
         canvas.addPositionDrawer(sigc::mem_fun(*this, &Canvas::_drawCounts), DrawerPosition::End);
         for (Disc& disc : discs)
             canvas.addFragment(&disc, [this, &disc](const Context& context) { _drawDisc(context, disc); });
-
         one.signal_clicked().connect(sigc::mem_fun(*this, &Canvas::_onOne), true);
         freeze.signal_toggled().connect(sigc::mem_fun(*this, &Canvas::_onOptions), true);
         through.signal_toggled().connect(sigc::mem_fun(*this, &Canvas::_onOptions), true);
@@ -60,9 +59,8 @@ private:
 
     void _drawDisc(const Context& context, Disc& disc) const {
         ++disc.painted;
-        const double width = canvas.get_allocated_width();
-        const double height = canvas.get_allocated_height();
-        context->arc(disc.x * width, disc.y * height, height / 4, 0, 2 * G_PI);
+        context->arc(disc.x * canvas.get_allocated_width(), disc.y * canvas.get_allocated_height(), 120, 0,
+                     2 * G_PI);
         context->set_source_rgb(disc.red, disc.green, disc.blue);
         context->fill();
     }
@@ -77,8 +75,8 @@ private:
         context->set_font_size(14);
         context->set_source_rgb(0, 0, 0);
         for (const Disc& disc : discs) {
-            const double x = disc.x * canvas.get_allocated_width() - 40;
-            context->move_to(x, disc.y * canvas.get_allocated_height());
+            context->move_to(disc.x * canvas.get_allocated_width() - 40,
+                             disc.y * canvas.get_allocated_height());
             context->show_text(words("painted: ", "нарисован: ") + std::to_string(disc.painted));
         }
     }
