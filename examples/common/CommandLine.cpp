@@ -6,7 +6,7 @@
 
 namespace examples {
 
-Glib::OptionEntry makeOption(const char* longName, const char* description, const char* argument) {
+Glib::OptionEntry entry(const char* longName, const char* description, const char* argument) {
     Glib::OptionEntry result;
     result.set_long_name(longName);
     result.set_description(description);

@@ -6,7 +6,7 @@
 namespace examples {
 
 /// An option "--name", with the name of its argument if it takes one.
-Glib::OptionEntry makeOption(const char* longName, const char* description, const char* argument = "");
+Glib::OptionEntry entry(const char* longName, const char* description, const char* argument = "");
 
 /// Brings GTK up. False without a display: it is asked for only when something is painted, so that texts are
 /// printed without one. Numbers keep their decimal point, whatever the user's locale.

@@ -8,7 +8,7 @@
 namespace gallery {
 
 Arguments parseArguments(int argc, char** argv) {
-    using examples::makeOption;
+    using examples::entry;
     // Distinguishes an option that is not given from one with an empty argument.
     const Glib::ustring none = "\n";
     Arguments arguments;
@@ -18,14 +18,14 @@ Arguments parseArguments(int argc, char** argv) {
     Glib::OptionGroup::vecustrings rest;
 
     Glib::OptionGroup group("gallery", "Options of the gallery");
-    group.add_entry(makeOption("page", "Begin with this page, or paint no other", "NAME"), page);
-    group.add_entry(makeOption("list", "Print the names and titles of the pages"), arguments.isList);
+    group.add_entry(entry("page", "Begin with this page, or paint no other", "NAME"), page);
+    group.add_entry(entry("list", "Print the names and titles of the pages"), arguments.isList);
     group.add_entry_filename(
-        makeOption("png", "Write pictures of the pages into a folder and print their paths", "DIR"), folder);
+        entry("png", "Write pictures of the pages into a folder and print their paths", "DIR"), folder);
     group.add_entry(
-        makeOption("lang", "Language of the texts; pictures are made in both unless it is given", "en|ru"),
+        entry("lang", "Language of the texts; pictures are made in both unless it is given", "en|ru"),
         language);
-    group.add_entry(makeOption(G_OPTION_REMAINING, ""), rest);
+    group.add_entry(entry(G_OPTION_REMAINING, ""), rest);
 
     Glib::OptionContext context("- shows the widgets of the library, page by page");
     context.set_main_group(group);

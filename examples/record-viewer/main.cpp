@@ -1,4 +1,5 @@
 #include "Arguments.h"
+#include "common/CommandLine.h"
 #include "info/Info.h"
 #include "reader/Reader.h"
 #include "view/MainWindow.h"
@@ -33,16 +34,6 @@ record::Record read(const viewer::Arguments& arguments) {
 std::string summaryOf(const record::Record& record) {
     return std::to_string(record.analogs.size()) + " analog and " + std::to_string(record.binaries.size()) +
            " binary channels, " + std::to_string(record.size()) + " samples";
-}
-
-/// The display is asked for only when something is painted, so that texts are printed without one.
-bool isDisplayThere() {
-    if (!gtk_init_check(nullptr, nullptr))
-        return false;
-    Gtk::Main::init_gtkmm_internals();
-    // Numbers on the axes have a point, whatever the user's locale.
-    std::setlocale(LC_NUMERIC, "C");
-    return true;
 }
 
 int show(const std::string& file, record::Record record) {
@@ -84,7 +75,7 @@ int main(int argc, char** argv) {
         if (arguments.isInfo || arguments.isJson)
             return Success;
 
-        if (!isDisplayThere())
+        if (!examples::isDisplayThere())
             return complain("there is no display to paint on; --info and --json need none", Failure);
         return arguments.pictureFolder.empty() ? show(arguments.file, std::move(record))
                                                : writePictures(arguments, std::move(record));

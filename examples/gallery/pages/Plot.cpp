@@ -43,7 +43,7 @@ private:
         for (int i = 0; i <= 400; ++i) {
             const float x = static_cast<float>(i) / 40;
             const float n = static_cast<float>(number);
-            added.points.push_back({x, n + 1 + std::sin(x * (1 + n / 2))});
+            added.points.push_back({x, 3 * n + 1.5f + 1.2f * std::sin(x * (1 + n / 2))});
         }
         // Limits and picture are two roles of a series, each added for itself.
         plot.addBorderable(added);

@@ -46,8 +46,8 @@ TEST_P(PagesTest, PaintsSomethingBeyondItsBackgroundInBothLanguages) {
 }
 
 TEST_P(PagesTest, LooksTheSameEachTimeItIsPainted) {
-    test::expectSame(test::pictureOf(gallery::paintPage(GetParam())),
-                     test::pictureOf(gallery::paintPage(GetParam())));
+    const test::Picture first = test::pictureOf(gallery::paintPage(GetParam()));
+    EXPECT_TRUE(test::pictureOf(gallery::paintPage(GetParam())) == first);
 }
 
 TEST_P(PagesTest, FiftyLivesLeaveNoWidgetBehind) {
