@@ -26,6 +26,7 @@ bool operator==(const Nullable<T>& left, const Nullable<T>& right) {
     return left.hasValue == right.hasValue && (!left.hasValue || left.value == right.value);
 }
 
+/// The opposite of `==`.
 template <typename T>
 bool operator!=(const Nullable<T>& left, const Nullable<T>& right) {
     return !(left == right);

@@ -27,10 +27,12 @@ enum class DialogResult : int {
     Cancel = 32,
 };
 
+/// The buttons of both.
 constexpr DialogResult operator|(DialogResult left, DialogResult right) {
     return static_cast<DialogResult>(static_cast<int>(left) | static_cast<int>(right));
 }
 
+/// The buttons that are in both; 0 for none.
 constexpr DialogResult operator&(DialogResult left, DialogResult right) {
     return static_cast<DialogResult>(static_cast<int>(left) & static_cast<int>(right));
 }

@@ -23,6 +23,8 @@ namespace ZelView {
 /// the context saved around each.
 class ZEL_API FragmentsDrawArea : public Gtk::DrawingArea {
 public:
+    /// Paints a layer or a fragment on a context with the origin in the top left corner of the widget, in
+    /// pixels.
     using DrawFunction = Fragments::DrawFunction;
 
     FragmentsDrawArea();
@@ -35,6 +37,7 @@ public:
     void addFragment(const void* key, DrawFunction function);
     /// Removes the fragment of this key, if there is one, and asks for a repaint of the rest as it is.
     void removeFragment(const void* key);
+    /// Removes all fragments and asks for a repaint of the layers alone.
     void removeFragments();
 
     /// Marks all fragments as out of date and asks for a repaint. Until the next `redraw` of one key all

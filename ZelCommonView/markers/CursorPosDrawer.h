@@ -38,6 +38,7 @@ class ZEL_API CursorPosDrawer : public InfoDrawer {
 public:
     ~CursorPosDrawer() override;
 
+    /// For the host to adjust at any time; what is changed shows at the next repaint.
     CursorPosDrawerCfg& getCfg() { return cfg; }
 
     /// Starts to follow the pointer. Throws "getDrawArea", a `const char*`, without a draw area.

@@ -16,6 +16,7 @@ namespace ZelView {
 class CoordsConverter;
 struct MarkerDrawerCfg;
 
+/// How many points a marker has.
 enum class MarkerType : std::uint32_t {
     Single = 0,
     Double = 1,
@@ -36,8 +37,11 @@ public:
     Marker(const Marker&) = delete;
     Marker& operator=(const Marker&) = delete;
 
+    /// How the marker is seen while its points are being fixed. All four defaults paint nothing.
     virtual void drawAsCreating(const Cairo::RefPtr<Cairo::Context>& context) const;
+    /// How a finished marker is seen: lines and labels.
     virtual void drawAsNormal(const Cairo::RefPtr<Cairo::Context>& context) const;
+    /// How the marker is seen while a point of it is moved.
     virtual void drawAsSelected(const Cairo::RefPtr<Cairo::Context>& context) const;
     /// How the marker is seen on areas other than its own: lines without labels.
     virtual void drawAsGlobal(const Cairo::RefPtr<Cairo::Context>& context) const;
@@ -45,7 +49,9 @@ public:
     /// now on.
     virtual bool isCollide(const Cairo::RefPtr<Cairo::Context>& context, Zel::PointF cursor) = 0;
 
+    /// The converter of the area that the marker stands on; it must outlive the marker or the next call.
     void setConverter(const CoordsConverter& converter);
+    /// How the lines run, as given at construction.
     Orientation getOrientation() const;
 
     /// Moves the current point to the pixel, stopping at the edges of the widget; does nothing without one.

@@ -27,6 +27,7 @@ public:
     /// The configuration must outlive it.
     MarkerDrawerHelper(const MarkerDrawerCfg& cfg, Orientation orientation);
 
+    /// The converter must outlive the helper or the next call.
     void setConverter(const CoordsConverter& converter);
 
     /// The line through the point across the widget. The global form is for areas other than the marker's

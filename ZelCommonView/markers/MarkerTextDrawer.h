@@ -17,6 +17,7 @@ class ZEL_API MarkerTextDrawer {
 public:
     explicit MarkerTextDrawer(const MarkerDrawerTextCfg& cfg);
 
+    /// Paints the box and the text in it; `selected` chooses the border.
     void draw(const Cairo::RefPtr<Cairo::Context>& context, const std::string& text, Zel::PointF centre,
               bool selected) const;
 

@@ -22,11 +22,13 @@ public:
 
     /// The range that was reported or set last; 0 and 0 at first.
     void getRange(float& start, float& end) const;
+    /// The same in double precision; the values are those of single precision.
     void getRange(double& start, double& end) const;
 
     /// Sets the range as `RangeSlider::setRange` does and then makes the page a tenth longer, which reports
     /// it: a caller reads back more than it has set, and may hear of two changes. That is meant.
     void setRange(float a, float b);
+    /// Does the same with the other form of `RangeSlider::setRange`.
     void setRange(double a, double b);
     /// Shows exactly this range and reports it once, as `RangeSlider::showRange` does.
     void showRange(float from, float to);
@@ -35,8 +37,10 @@ public:
     /// `const char*`, below 0.
     void setMax(float max);
 
+    /// The scrollbar; it stays this object's.
     Gtk::Scrollbar& getScrollWidget() { return scrollbar; }
 
+    /// The three buttons; they stay this object's.
     ButtonsToolbar& getToolbarWidget() { return toolbar; }
 
 private:

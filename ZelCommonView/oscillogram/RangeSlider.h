@@ -24,6 +24,7 @@ public:
 
     /// The range that was reported or set last; 0 and 0 at first.
     void getRange(float& start, float& end) const;
+    /// The same in double precision; the values are those of single precision.
     void getRange(double& start, double& end) const;
 
     /// Takes `b` for the length if `a` is 0, and makes the page `a + b` long otherwise. The start is set

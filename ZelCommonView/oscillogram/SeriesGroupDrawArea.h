@@ -45,6 +45,7 @@ public:
     void addFragmentable(const Zel::IFragmentable& fragmentable);
     /// Throws `std::out_of_range` for one that was never added.
     void deleteFragmentable(const Zel::IFragmentable& fragmentable);
+    /// Removes the rows and the fragments of all objects.
     void clearFragmentable();
     /// Marks all fragments as out of date and asks for a repaint.
     void redrawFragmentable();
@@ -62,6 +63,7 @@ public:
     void addBorderable(const Zel::IBorderable& borderable);
     /// Forgets the object; one that was never added is no error.
     void deleteBorderable(const Zel::IBorderable& borderable);
+    /// Forgets all objects; automatic axes go back to the limits of an empty plot.
     void clearBorderable();
     /// Replaces the converter and tells all drawers; all fragments are painted anew. Throws
     /// "_createConverter", a `const char*`, for any other value, and the converter then stays.

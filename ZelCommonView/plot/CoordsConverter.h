@@ -70,8 +70,10 @@ public:
     /// Computes spans, drawable pixels and scales anew; to be called after any change of the inputs.
     void recalc();
 
+    /// The world limits of the view.
     Border getBorder() const { return {xMin, xMax, yMin, yMax}; }
 
+    /// Stores the world limits, unchecked; `recalc` must follow.
     void setBorder(const Border& border);
 
     float rowHeight = 16;     ///< pixels between the rows of binary series

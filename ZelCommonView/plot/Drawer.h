@@ -51,6 +51,7 @@ class ZEL_API InfoDrawer : public Drawer {
 public:
     ~InfoDrawer() override;
 
+    /// Paints the layer, in pixels of the draw area; the host saves the state of the context around the call.
     virtual void draw(const Cairo::RefPtr<Cairo::Context>& context) = 0;
 };
 
@@ -59,6 +60,8 @@ class ZEL_API BaseFragmentableDrawer : public Drawer {
 public:
     ~BaseFragmentableDrawer() override;
 
+    /// Paints one fragment, or nothing if it is not of a kind that the drawer knows; the host saves the state
+    /// of the context around the call.
     virtual void drawFragmentable(const Cairo::RefPtr<Cairo::Context>& context,
                                   const Zel::IFragmentable& fragmentable) = 0;
 

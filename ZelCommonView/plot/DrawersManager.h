@@ -30,6 +30,7 @@ public:
     void addFragmentable(const Zel::IFragmentable& fragmentable);
     /// Removes the object's fragment; an unknown one is no error.
     void deleteFragmentable(const Zel::IFragmentable& fragmentable);
+    /// Removes the fragments of all objects.
     void clearFragmentables();
 
     /// All layers, then all drawers of fragments, each in the order of adding. They stay the manager's.

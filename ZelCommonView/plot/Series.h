@@ -43,6 +43,7 @@ public:
     /// whoever listens to one object asked for that object.
     IBorderable(const IBorderable&) {}
 
+    /// Copies nothing, for the same reason.
     IBorderable& operator=(const IBorderable&) { return *this; }
 
     virtual ~IBorderable();
@@ -68,6 +69,7 @@ public:
     /// As with `IBorderable`, listeners are never copied.
     IFragmentable(const IFragmentable&) {}
 
+    /// Copies nothing, for the same reason.
     IFragmentable& operator=(const IFragmentable&) { return *this; }
 
     virtual ~IFragmentable();
@@ -81,6 +83,7 @@ public:
     mutable sigc::signal<void> changed;
 };
 
+/// How a series is shown.
 enum class SeriesType : std::uint32_t {
     Analog = 0, ///< a curve
     Binary = 1, ///< a discrete signal, shown as a row of on and off

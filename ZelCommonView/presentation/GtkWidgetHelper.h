@@ -41,9 +41,13 @@ ZEL_API IView* getIView(Gtk::Widget* widget);
 /// not in a window yet: callers take that as having no parent.
 ZEL_API Gtk::Window* getParentWindow(IView* view);
 
+/// The direction of the same number.
 ZEL_API Orientations orientConvert(Gtk::Orientation orientation);
+/// The direction of the same number.
 ZEL_API Gtk::Orientation orientConvertToGtk(Orientations orientation);
+/// The alignment of the same number.
 ZEL_API Aligns alignConvert(Gtk::Align align);
+/// The alignment of the same number.
 ZEL_API Gtk::Align alignConvertToGtk(Aligns align);
 
 } // namespace GtkWidgetHelper

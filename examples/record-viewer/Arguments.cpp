@@ -1,22 +1,14 @@
 #include "Arguments.h"
 
+#include "common/CommandLine.h"
+
 #include <glibmm.h>
 
 #include <clocale>
 
 namespace viewer {
 
-namespace {
-
-Glib::OptionEntry entry(const char* longName, const char* description, const char* argument = "") {
-    Glib::OptionEntry result;
-    result.set_long_name(longName);
-    result.set_description(description);
-    result.set_arg_description(argument);
-    return result;
-}
-
-} // namespace
+using examples::entry;
 
 Arguments parseArguments(int argc, char** argv) {
     Arguments arguments;

@@ -1,4 +1,5 @@
 #include "Arguments.h"
+#include "common/CommandLine.h"
 #include "info/Info.h"
 #include "reader/Reader.h"
 #include "view/Loader.h"
@@ -40,16 +41,6 @@ record::Record withAxis(record::Record record, const std::string& axis) {
 
 record::Record read(const viewer::Arguments& arguments) {
     return withAxis(record::open(arguments.file, optionsOf(arguments)), arguments.axis);
-}
-
-/// The display is asked for only when something is painted, so that texts are printed without one.
-bool isDisplayThere() {
-    if (!gtk_init_check(nullptr, nullptr))
-        return false;
-    Gtk::Main::init_gtkmm_internals();
-    // Numbers on the axes have a point, whatever the user's locale.
-    std::setlocale(LC_NUMERIC, "C");
-    return true;
 }
 
 /// Reads a large record behind a dialog over the window; false if there is nothing to show.
@@ -125,7 +116,7 @@ int main(int argc, char** argv) {
             return Success;
         }
 
-        if (!isDisplayThere())
+        if (!examples::isDisplayThere())
             return complain("there is no display to paint on; --info and --json need none", Failure);
         return arguments.pictureFolder.empty() ? show(arguments) : writePictures(arguments, read(arguments));
     } catch (const viewer::ArgumentsError& error) {

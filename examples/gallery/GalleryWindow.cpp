@@ -1,0 +1,23 @@
+#include "GalleryWindow.h"
+
+namespace gallery {
+
+GalleryWindow::GalleryWindow(const std::string& firstPage) {
+    set_title(words("Gallery of widgets", "Галерея виджетов"));
+    set_default_size(1200, 760);
+
+    for (const Page& page : allPages()) {
+        PageView& view = views.emplace_back(page);
+        stack.add(view, page.name, page.getTitle());
+    }
+    sidebar.set_stack(stack);
+    box.pack_start(sidebar, Gtk::PACK_SHRINK);
+    box.pack_start(stack, Gtk::PACK_EXPAND_WIDGET);
+    add(box);
+    show_all_children();
+    // Only a visible child can be chosen.
+    if (!firstPage.empty())
+        stack.set_visible_child(firstPage);
+}
+
+} // namespace gallery

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "PageView.h"
+
+#include <gtkmm.h>
+
+#include <list>
+#include <string>
+
+namespace gallery {
+
+/// All pages, with their titles at the side.
+class GalleryWindow : public Gtk::Window {
+public:
+    /// Shows the page of this name first, or the very first one if the name is empty.
+    explicit GalleryWindow(const std::string& firstPage);
+
+    /// The name of the page that is shown.
+    std::string getPageName() const { return stack.get_visible_child_name(); }
+
+private:
+    std::list<PageView> views;
+    Gtk::Box box;
+    Gtk::Stack stack;
+    Gtk::StackSidebar sidebar; ///< the first to go: it asks the stack for titles as long as there are pages
+};
+
+} // namespace gallery

@@ -1,0 +1,71 @@
+// The window of the gallery, and the frame around each page.
+#include "GalleryWindow.h"
+#include "PageView.h"
+#include "Search.h"
+
+#include "support/Hands.h"
+#include "support/Pictures.h"
+
+#include <gtest/gtest.h>
+
+using gallery::allPages;
+using gallery::GalleryWindow;
+using gallery::PageView;
+
+TEST(GalleryWindow, ShowsTheFirstPageUnlessAnotherIsNamed) {
+    EXPECT_EQ(GalleryWindow("").getPageName(), allPages().front().name);
+    EXPECT_EQ(GalleryWindow("words").getPageName(), "words");
+}
+
+TEST(GalleryWindow, NamesEveryPageAtTheSideInTheCurrentLanguage) {
+    for (unsigned char language : {0, 1}) {
+        lng::language = language;
+        GalleryWindow window("");
+        for (const gallery::Page& page : allPages()) {
+            bool isNamed = false;
+            // The rows of the sidebar are GTK's own.
+            for (Gtk::Label* label : test::findAll<Gtk::Label>(window.sidebar))
+                isNamed = isNamed || label->get_text() == page.titles[language];
+            EXPECT_TRUE(isNamed) << page.titles[language];
+        }
+    }
+    lng::language = 0;
+}
+
+TEST(GalleryWindow, AllPagesLiveInOneWindow) {
+    int finalised = 0;
+    for (int i = 0; i < 5; ++i) {
+        GalleryWindow window("");
+        g_object_weak_ref(
+            G_OBJECT(window.gobj()), [](gpointer count, GObject*) { ++*static_cast<int*>(count); },
+            &finalised);
+        EXPECT_EQ(window.views.size(), allPages().size());
+    }
+    EXPECT_EQ(finalised, 5);
+}
+
+TEST(PageView, ShowsThePageUntilItsSourceIsAskedFor) {
+    PageView view(allPages().front());
+    test::OffscreenHost host(view, 800, 500);
+    EXPECT_TRUE(view.getContent().get_child_visible());
+    const test::Picture before = test::pictureOf(host.picture());
+
+    view.sourceButton.set_active(true);
+    const test::Picture shown = test::pictureOf(host.picture());
+    EXPECT_FALSE(view.getContent().get_mapped());
+    EXPECT_TRUE(view.source.get_mapped());
+    EXPECT_FALSE(shown == before);
+
+    view.sourceButton.set_active(false);
+    test::settle();
+    EXPECT_TRUE(view.getContent().get_mapped());
+    EXPECT_FALSE(view.source.get_mapped());
+}
+
+TEST(PageView, ShowsTheWholeSourceOfEachPageAndNobodyCanEditIt) {
+    for (const gallery::Page& page : allPages()) {
+        PageView view(page);
+        EXPECT_EQ(view.source.get_buffer()->get_text().raw(), page.source) << page.name;
+        EXPECT_FALSE(view.source.get_editable());
+    }
+}
