@@ -4,6 +4,7 @@
 
 #include <gdkmm/general.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace test {
@@ -15,10 +16,9 @@ std::vector<int> Picture::at(int x, int y) const {
 
 int Picture::countPainted() const {
     int count = 0;
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            if (at(x, y) != at(0, 0))
-                ++count;
+    for (std::size_t i = 0; i < bytes.size(); i += static_cast<std::size_t>(channels))
+        count += !std::equal(bytes.begin(), bytes.begin() + channels,
+                             bytes.begin() + static_cast<std::ptrdiff_t>(i));
     return count;
 }
 
@@ -95,7 +95,8 @@ void expectSame(const Picture& actual, const Picture& expected) {
             difference.bytes[i] = 255;
     }
     const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
-    const std::string stem = std::string(test.test_suite_name()) + "." + test.name();
+    std::string stem = std::string(test.test_suite_name()) + "." + test.name();
+    std::replace(stem.begin(), stem.end(), '/', '_'); // in the names of parametrised tests
     toPixbuf(actual)->save(stem + ".actual.png", "png");
     toPixbuf(expected)->save(stem + ".expected.png", "png");
     toPixbuf(difference)->save(stem + ".difference.png", "png");
