@@ -43,14 +43,15 @@ void SynchronizerFacade::deleteSeries(const Zel::Series* series) {
     SeriesSections& section = _getSection(*series);
     section.deleteSeries(series);
     if (section.getDrawAreas().empty())
-        _detach(section);
+        seriesGrid.remove(section);
 }
 
 void SynchronizerFacade::clearSeries() {
     analogSections.clearSeries();
     binarySections.clearSeries();
-    _detach(analogSections);
-    _detach(binarySections);
+    // One that is out already is no error.
+    seriesGrid.remove(analogSections);
+    seriesGrid.remove(binarySections);
 }
 
 void SynchronizerFacade::setSeriesTime(float from, float to) {
@@ -76,12 +77,6 @@ void SynchronizerFacade::_compose() {
 
 void SynchronizerFacade::_attach(SeriesSections& section) {
     seriesGrid.attach(section, 0, &section == &binarySections ? 1 : 0, 1, 1);
-}
-
-void SynchronizerFacade::_detach(SeriesSections& section) {
-    // It may be out already, of which GTK would complain.
-    if (section.get_parent())
-        seriesGrid.remove(section);
 }
 
 SeriesSections& SynchronizerFacade::_getSection(const Zel::Series& series) {

@@ -44,7 +44,6 @@ public:
 private:
     void _compose();
     void _attach(SeriesSections& section);
-    void _detach(SeriesSections& section);
     SeriesSections& _getSection(const Zel::Series& series);
 
     // The synchronizers die after the sections whose plots they know.

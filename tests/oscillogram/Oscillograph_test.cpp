@@ -267,7 +267,8 @@ TEST_F(OscillographTest, AThousandLivesLeaveNoWidgetBehind) {
     const auto count = [](gpointer counter, GObject*) { ++*static_cast<int*>(counter); };
     for (int i = 0; i < 1000; ++i) {
         Oscillograph shortLived;
-        shortLived.addSeries(&analog);
+        if (i % 5 == 0)
+            shortLived.addSeries(&analog);
         shortLived.setSeriesDuration(100);
         for (Gtk::Widget* widget :
              Widgets{&shortLived, &shortLived.impl->grid, &shortLived.impl->facade,
