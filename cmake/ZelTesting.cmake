@@ -38,8 +38,14 @@ function(zel_add_test folder file)
     target_precompile_headers(${target} REUSE_FROM zel-test-pch)
   endif()
 
+  # The sanitizers make a program many times slower.
+  set(timeout 300)
+  if(ZEL_SANITIZE)
+    set(timeout 900)
+  endif()
   add_test(NAME ${target} COMMAND ${target})
-  set_tests_properties(${target} PROPERTIES ENVIRONMENT "${ZEL_TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}" TIMEOUT 300)
+  set_tests_properties(${target} PROPERTIES ENVIRONMENT "${ZEL_TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}"
+                                                  TIMEOUT ${timeout})
   if("threads" IN_LIST TEST_LABELS)
     add_dependencies(zel-thread-tests ${target})
   endif()
