@@ -18,6 +18,24 @@ bool fitsInt(float value) {
     return value > static_cast<float>(Limits::min()) && value < static_cast<float>(Limits::max());
 }
 
+struct Steps {
+    int first;
+    int last;
+    float step;
+};
+
+Steps stepsX(const CoordsConverter& converter, const CoordsDrawerCfg& cfg) {
+    Steps steps;
+    CoordsStepsCalc(converter, cfg).getStepsInfoX(steps.first, steps.last, steps.step);
+    return steps;
+}
+
+Steps stepsY(const CoordsConverter& converter, const CoordsDrawerCfg& cfg) {
+    Steps steps;
+    CoordsStepsCalc(converter, cfg).getStepsInfoY(steps.first, steps.last, steps.step);
+    return steps;
+}
+
 } // namespace
 
 CoordsDrawer::CoordsDrawer(const CoordsDrawerCfg& value) : cfg(value) {}
@@ -54,17 +72,13 @@ void CoordsDrawer::_onDrawStepLineY(const Cairo::RefPtr<Cairo::Context>& context
 }
 
 void CoordsDrawer::_getFirstStepLineXPos(Zel::PointF& from, Zel::PointF& to) const {
-    int first, last;
-    float step;
-    CoordsStepsCalc(*converter, cfg).getStepsInfoX(first, last, step);
-    _getLineX(first * step, from, to);
+    const Steps steps = stepsX(*converter, cfg);
+    _getLineX(steps.first * steps.step, from, to);
 }
 
 void CoordsDrawer::_getLastStepLineXPos(Zel::PointF& from, Zel::PointF& to) const {
-    int first, last;
-    float step;
-    CoordsStepsCalc(*converter, cfg).getStepsInfoX(first, last, step);
-    _getLineX(last * step, from, to);
+    const Steps steps = stepsX(*converter, cfg);
+    _getLineX(steps.last * steps.step, from, to);
 }
 
 void CoordsDrawer::_getCenterStepLineXPos(Zel::PointF& from, Zel::PointF& to) const {
@@ -72,17 +86,13 @@ void CoordsDrawer::_getCenterStepLineXPos(Zel::PointF& from, Zel::PointF& to) co
 }
 
 void CoordsDrawer::_getFirstStepLineYPos(Zel::PointF& from, Zel::PointF& to) const {
-    int first, last;
-    float step;
-    CoordsStepsCalc(*converter, cfg).getStepsInfoY(first, last, step);
-    _getLineY(first * step, from, to);
+    const Steps steps = stepsY(*converter, cfg);
+    _getLineY(steps.first * steps.step, from, to);
 }
 
 void CoordsDrawer::_getLastStepLineYPos(Zel::PointF& from, Zel::PointF& to) const {
-    int first, last;
-    float step;
-    CoordsStepsCalc(*converter, cfg).getStepsInfoY(first, last, step);
-    _getLineY(last * step, from, to);
+    const Steps steps = stepsY(*converter, cfg);
+    _getLineY(steps.last * steps.step, from, to);
 }
 
 void CoordsDrawer::_getCenterStepLineYPos(Zel::PointF& from, Zel::PointF& to) const {
@@ -115,9 +125,7 @@ void CoordsDrawer::_onDrawAxisY(const Cairo::RefPtr<Cairo::Context>& context) co
 }
 
 void CoordsDrawer::_drawStepsX(const Cairo::RefPtr<Cairo::Context>& context) {
-    int first, last;
-    float step;
-    CoordsStepsCalc(*converter, cfg).getStepsInfoX(first, last, step);
+    const auto [first, last, step] = stepsX(*converter, cfg);
     const std::size_t precision = _getPrecision(step);
     // The last line is left out here and painted for y; that is meant. The counter is wide, so that it passes
     // the largest `last` that there is.
@@ -136,9 +144,7 @@ void CoordsDrawer::_drawStepsX(const Cairo::RefPtr<Cairo::Context>& context) {
 }
 
 void CoordsDrawer::_drawStepsY(const Cairo::RefPtr<Cairo::Context>& context) {
-    int first, last;
-    float step;
-    CoordsStepsCalc(*converter, cfg).getStepsInfoY(first, last, step);
+    const auto [first, last, step] = stepsY(*converter, cfg);
     const std::size_t precision = _getPrecision(step);
     for (std::int64_t i = first; i <= last; ++i) {
         const float value = static_cast<float>(i) * step;

@@ -91,8 +91,9 @@ TEST(ResizableWindowTest, OnceTheWidgetHasGoneTheButtonsDoNothing) {
     auto area = std::make_unique<Gtk::DrawingArea>();
     ResizableWindow window(*area);
     area.reset();
+    // A call into what is gone would be a complaint of GTK or a crash.
     for (int i = 0; i < 3; ++i)
-        click(button(window, i));
+        EXPECT_NO_THROW(click(button(window, i)));
 }
 
 TEST(ResizableWindowTest, LeavesTheFramedWidgetToItsOwner) {
