@@ -1,5 +1,6 @@
 #include "reader/Reader.h"
 #include "reader/Text.h"
+#include "support/TemporaryLocales.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -94,12 +95,15 @@ TEST(Numbers, WhatIsNoFiniteDecimalNumberIsRefused) {
 }
 
 TEST(Numbers, TheLocaleHasNoSay) {
-    const char* german = std::setlocale(LC_ALL, "de_DE.UTF-8");
+    if (!test::TemporaryLocales::canMake())
+        GTEST_SKIP() << "the package \"locales\" is not installed";
+    test::TemporaryLocales locales;
+    ASSERT_TRUE(locales.make("de_DE", "de_DE.UTF-8"));
+    ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8"));
+    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
     EXPECT_EQ(toNumber("3.14"), 3.14);
+    EXPECT_FALSE(toNumber("3,14"));
     EXPECT_EQ(numberText(3.14), "3.14");
-    std::setlocale(LC_ALL, "C");
-    if (!german)
-        GTEST_SKIP() << "there is no locale with a decimal comma here";
 }
 
 TEST(Counts, SignsFractionsAndOverflowAreRefused) {
