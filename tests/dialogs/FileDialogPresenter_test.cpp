@@ -65,11 +65,12 @@ protected:
         return view->show(nullptr, "Choose", filters, save);
     }
 
-    /// Types the name in the test's folder and accepts it.
+    /// Types the name in the test's folder and accepts it. By key: the list of names that begin alike may
+    /// cover the button, and a click would only close it.
     std::string answerByName(const FileDialogFilters& filters, const std::string& name) {
         return answer(filters, true, [&](Gtk::Dialog& dialog) {
             enterName(dialog, name);
-            acceptByKey();
+            test::acceptByKey(dialog);
         });
     }
 
@@ -93,9 +94,6 @@ protected:
         EXPECT_TRUE(test::waitFor([&] { return chooserOf(dialog).get_current_folder() == path; }));
         test::wait(200);
     }
-
-    /// The list of names that begin alike may cover the button, and a click would only close it.
-    static void acceptByKey() { test::pressKey(GDK_KEY_Return); }
 
     std::string path(const std::string& name) const { return (folder.path / name).string(); }
 
@@ -127,7 +125,7 @@ TEST_P(FileDialogViews, TheFilterThatTheUserChoseDoesNotMatter) {
     const std::string name = answer(pictures, true, [&](Gtk::Dialog& dialog) {
         chooserOf(dialog).set_filter(chooserOf(dialog).list_filters().at(1));
         enterName(dialog, "a");
-        acceptByKey();
+        test::acceptByKey(dialog);
     });
     EXPECT_EQ(name, path("a.png"));
 }
@@ -231,7 +229,7 @@ TEST_P(FileDialogViews, ToSaveAsksBeforeAFileIsOverwritten) {
     const std::string name = answer(tables, true, [&](Gtk::Dialog& dialog) {
         enterName(dialog, "a.csv");
         person.emplace([](Gtk::Dialog& question) { test::clickButton(question, "_Replace"); });
-        acceptByKey();
+        test::acceptByKey(dialog);
     });
     EXPECT_TRUE(person && person->hasActed());
     EXPECT_EQ(name, path("a.csv"));
@@ -254,7 +252,7 @@ TEST_P(FileDialogViews, APatternThatIsNoRegularExpressionThrowsAfterTheAnswer) {
     const auto act = [&](Gtk::Dialog& dialog) {
         countFinalised(dialog, finalised);
         enterName(dialog, "a");
-        acceptByKey();
+        test::acceptByKey(dialog);
     };
     EXPECT_THROW(answer({{"(*", "Broken"}}, true, act), std::regex_error);
     EXPECT_TRUE(test::findDialogs().empty());

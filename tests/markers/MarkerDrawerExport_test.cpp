@@ -90,7 +90,7 @@ TEST_F(MarkerDrawerExportTest, WritesThePictureWithMarkersButWithoutWhatLiesOnTo
         EXPECT_EQ(dialog.get_title(), lngExportPng());
         enterName(dialog);
         // By key: the list of names that begin alike may cover the button.
-        test::pressKey(GDK_KEY_Return);
+        test::acceptByKey(dialog);
     });
     const test::Picture picture = test::pictureOfFile(folder.path / "plot.png");
     EXPECT_EQ(picture.width, width);

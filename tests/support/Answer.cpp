@@ -1,6 +1,7 @@
 #include "support/Answer.h"
 
 #include "support/Hands.h"
+#include "support/Keyboard.h"
 
 #include <gtest/gtest.h>
 
@@ -93,6 +94,19 @@ void clickButton(Gtk::Dialog& dialog, const Glib::ustring& label) {
     movePointer(*button, button->get_allocated_width() / 2, button->get_allocated_height() / 2);
     pressButton();
     releaseButton();
+}
+
+void acceptByKey(Gtk::Dialog& dialog) {
+    bool isAnswered = false;
+    sigc::connection connection = dialog.signal_response().connect([&isAnswered](int) { isAnswered = true; });
+    for (int i = 0; i < 5 && !isAnswered; ++i) {
+        // A question of the dialog's own has the focus while it waits for its answer.
+        if (dialog.is_active())
+            pressKey(GDK_KEY_Return);
+        waitFor([&isAnswered] { return isAnswered; }, 2000);
+    }
+    connection.disconnect();
+    EXPECT_TRUE(isAnswered) << "the dialog takes no Return";
 }
 
 void closeByManager(Gtk::Window& window) {

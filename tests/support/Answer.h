@@ -62,6 +62,10 @@ Gtk::Button* findButton(Gtk::Dialog& dialog, const Glib::ustring& label);
 /// Clicks the button that shows the label, without waiting for what comes of it.
 void clickButton(Gtk::Dialog& dialog, const Glib::ustring& label);
 
+/// Accepts what was entered in the dialog by Return, and again as long as the dialog doesn't react: Gtk's
+/// file chooser takes the key for nothing while it still reads a folder. Fails the test if it never reacts.
+void acceptByKey(Gtk::Dialog& dialog);
+
 /// Closes a window as its title bar does: through the window manager.
 void closeByManager(Gtk::Window& window);
 
