@@ -61,11 +61,15 @@
 #include <ZelCommonView/plot/CoordsConverter.h>
 #include <ZelCommonView/plot/CoordsDrawer.h>
 #include <ZelCommonView/plot/CoordsStepsCalc.h>
+#include <ZelCommonView/plot/CounterControls.h>
 #include <ZelCommonView/plot/Drawer.h>
 #include <ZelCommonView/plot/DrawersManager.h>
 #include <ZelCommonView/plot/ImageDrawer.h>
 #include <ZelCommonView/plot/Series.h>
 #include <ZelCommonView/plot/SeriesDrawer.h>
+#include <ZelCommonView/plot/SeriesTimeCounter.h>
+#include <ZelCommonView/plot/SyncedTimeCounter.h>
+#include <ZelCommonView/plot/TimeCounterManager.h>
 #include <ZelCommonView/presentation/ApplicationDispatcher.h>
 #include <ZelCommonView/presentation/GtkWidgetHelper.h>
 #include <ZelCommonView/presentation/UpdateViewGuard.h>
