@@ -68,8 +68,11 @@
 #include <ZelCommonView/plot/Series.h>
 #include <ZelCommonView/plot/SeriesDrawer.h>
 #include <ZelCommonView/plot/SeriesTimeCounter.h>
+#include <ZelCommonView/plot/SingleTimedSeriesDrawer.h>
 #include <ZelCommonView/plot/SyncedTimeCounter.h>
 #include <ZelCommonView/plot/TimeCounterManager.h>
+#include <ZelCommonView/plot/TimedSeriesDrawer.h>
+#include <ZelCommonView/plot/TimedSeriesIteratorCalc.h>
 #include <ZelCommonView/presentation/ApplicationDispatcher.h>
 #include <ZelCommonView/presentation/GtkWidgetHelper.h>
 #include <ZelCommonView/presentation/UpdateViewGuard.h>
