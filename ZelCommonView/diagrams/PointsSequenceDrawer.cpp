@@ -9,8 +9,6 @@ PointsSequenceDrawer::~PointsSequenceDrawer() = default;
 
 void PointsSequenceDrawer::_onDraw(const Cairo::RefPtr<Cairo::Context>& context,
                                    const Zel::PointsSequence& sequence) {
-    // A caption before leaves a current point, at which the text of an empty sequence would begin.
-    context->begin_new_path();
     if (sequence.lines)
         _drawLines(context, sequence);
     else
@@ -18,6 +16,7 @@ void PointsSequenceDrawer::_onDraw(const Cairo::RefPtr<Cairo::Context>& context,
 
     context->set_line_width(3.0);
     setSource(context, sequence.color, 1.0);
+    // This also drops the current point, of an empty path too, so the text begins at the origin.
     context->stroke();
     context->show_text(sequence.text);
 }
@@ -29,13 +28,14 @@ void PointsSequenceDrawer::_drawLines(const Cairo::RefPtr<Cairo::Context>& conte
     if (sequence.points.empty())
         return;
 
-    // The first line_to of an empty path is a move_to.
-    for (const Zel::PointF& point : sequence.points)
-        context->line_to(converter->getVisualX(point.x), converter->getVisualY(point.y));
+    const Zel::PointF& first = sequence.points.front();
+    context->move_to(converter->getVisualX(first.x), converter->getVisualY(first.y));
+    for (std::size_t i = 1; i < sequence.points.size(); ++i)
+        context->line_to(converter->getVisualX(sequence.points[i].x),
+                         converter->getVisualY(sequence.points[i].y));
     if (sequence.closed) {
         // The path is not closed in cairo's sense, so its last corner has no join. With the opacity of 0 the
         // filling leaves no mark; both are meant.
-        const Zel::PointF& first = sequence.points.front();
         context->line_to(converter->getVisualX(first.x), converter->getVisualY(first.y));
         context->fill_preserve();
     }

@@ -126,25 +126,30 @@ TEST(PointsSequenceDrawer, WithoutPointsPaintsItsTextAloneAtTheOrigin) {
         }
 }
 
-TEST(PointsSequenceDrawer, WithoutPointsDoesNotGoOnWhereAnotherTextEnded) {
-    auto empty = makeSequence(true, true, "gjpqy");
-    empty.points.clear();
-    PointsSequenceDrawer drawer;
-    drawer.converter = &test::stretchable;
-    const auto seen =
-        test::paint(test::canvasWidth, test::canvasHeight, [&](const Cairo::RefPtr<Cairo::Context>& context) {
-            context->move_to(60, 50);
-            context->show_text("before");
-            drawer._onDraw(context, empty);
-        });
-    const auto expected = test::paintBare([](cairo_t* cr) {
-        setColour(cr, 1);
-        cairo_show_text(cr, "gjpqy");
-        cairo_set_source_rgb(cr, 0, 0, 0);
-        cairo_move_to(cr, 60, 50);
-        cairo_show_text(cr, "before");
-    });
-    test::expectSame(seen, expected);
+TEST(PointsSequenceDrawer, DoesNotGoOnWhereAnotherTextEnded) {
+    for (const bool isEmpty : {false, true}) {
+        auto sequence = makeSequence(true, true, "gjpqy");
+        if (isEmpty)
+            sequence.points.clear();
+        const auto withText = [&](bool isTextFirst) {
+            return test::paint(test::canvasWidth, test::canvasHeight,
+                               [&](const Cairo::RefPtr<Cairo::Context>& context) {
+                                   const auto showText = [&] {
+                                       context->set_source_rgb(0, 0, 0);
+                                       context->move_to(130, 90);
+                                       context->show_text("text");
+                                   };
+                                   PointsSequenceDrawer drawer;
+                                   drawer.converter = &test::stretchable;
+                                   if (isTextFirst)
+                                       showText();
+                                   drawer._onDraw(context, sequence);
+                                   if (!isTextFirst)
+                                       showText();
+                               });
+        };
+        test::expectSame(withText(true), withText(false));
+    }
 }
 
 TEST(PointsSequenceDrawer, NeedsTwoPointsForALine) {
