@@ -18,6 +18,12 @@
 #include <ZelCommonView/common/PointerNamedConnectionsDispatcher.h>
 #include <ZelCommonView/common/RectangleF.h>
 #include <ZelCommonView/common/StringHelper.h>
+#include <ZelCommonView/diagrams/CircleDrawer.h>
+#include <ZelCommonView/diagrams/Figure.h>
+#include <ZelCommonView/diagrams/FigureDrawer.h>
+#include <ZelCommonView/diagrams/FiguresDrawer.h>
+#include <ZelCommonView/diagrams/FixedDotDrawer.h>
+#include <ZelCommonView/diagrams/PointsSequenceDrawer.h>
 #include <ZelCommonView/dialogs/DialogPresenter.h>
 #include <ZelCommonView/dialogs/FileDialogHelper.h>
 #include <ZelCommonView/dialogs/FileDialogPresenter.h>
