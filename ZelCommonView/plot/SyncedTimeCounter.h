@@ -20,8 +20,8 @@ namespace ZelView {
 class ZEL_API SyncedTimeCounter {
 public:
     /// Milliseconds since the previous tick, about 100, time in suspend included. Emitted by the main loop:
-    /// while none runs the ticks wait, and then come one after another with the value of the last. Of those
-    /// that waited longer than some 100 seconds no more are added.
+    /// while none runs the ticks wait, and then come one after another with the value of the last. About a
+    /// thousand of them can wait; those after that, from some 100 seconds on, are lost.
     sigc::signal<void, unsigned long> synced;
 
     /// Starts the thread. Throws `std::system_error` if there can be none.

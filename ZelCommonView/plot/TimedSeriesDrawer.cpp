@@ -1,5 +1,7 @@
 #include <ZelCommonView/plot/TimedSeriesDrawer.h>
 
+#include <ZelCommonView/plot/LifeWatch.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -18,8 +20,12 @@ void TimedSeriesDrawer::addSeries(std::unique_ptr<Zel::TimedSeries> series) {
     std::uint64_t duration = 0;
     for (const Zel::TimedPointF& point : series->points)
         duration = std::max(duration, point.time);
-    if (duration > maxDuration)
+    if (duration > maxDuration) {
+        const LifeWatch life(*this);
         _updateMaxDuration(duration);
+        if (!life)
+            return;
+    }
 
     SingleTimedSeriesDrawer& drawer = drawers.emplace_back(std::move(series));
     if (converter)

@@ -227,6 +227,12 @@ TEST(TimedSeriesDrawer, AListenerToTheClockMayDestroyTheDrawer) {
     drawer->getCounter().timeChanged.connect([&](unsigned long) { drawer.reset(); });
     drawer->getCounter().manager._onSynced(100);
     EXPECT_EQ(drawer, nullptr);
+
+    drawer = std::make_unique<TimedSeriesDrawer>();
+    drawer->drawArea = &widget;
+    drawer->getCounter().maxChanged.connect([&](unsigned long) { drawer.reset(); });
+    drawer->addSeries(makeSeries(60, {0, 100}));
+    EXPECT_EQ(drawer, nullptr);
 }
 
 TEST(TimedSeriesDrawer, EndsWithItsSlotsInEitherOrderWithControls) {
