@@ -38,6 +38,7 @@ public:
     Complex value() const { return sum * scale; }
 
 private:
+    std::vector<Complex> turns;
     /// The last cycle of samples, 0 for missing ones; the oldest one stands at `next`.
     std::vector<double> cycle;
     std::vector<bool> isMissing;

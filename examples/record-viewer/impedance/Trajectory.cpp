@@ -35,8 +35,8 @@ std::vector<Source> sourcesOf(const record::Record& record, const Inputs& inputs
     return sources;
 }
 
-/// Slides one window for each source over a stretch and calls the function at every position where all are
-/// valid.
+/// Slides one window for each source, six at most, over a stretch and calls the function at every position
+/// where all are valid.
 void slide(const Stretch& stretch, const std::vector<Source>& sources,
            const std::function<void(std::size_t, const SixPhasors&)>& function) {
     std::vector<SlidingPhasor> phasors(sources.size(), SlidingPhasor(stretch.window));
@@ -53,11 +53,11 @@ void slide(const Stretch& stretch, const std::vector<Source>& sources,
     }
 }
 
-double largestCurrent(const std::vector<Stretch>& stretches, const std::vector<Source>& sources) {
+double largestOf(const std::vector<Stretch>& stretches, const std::vector<Source>& sources) {
     double largest = 0;
     for (const Stretch& stretch : stretches)
         slide(stretch, sources, [&](std::size_t, const SixPhasors& values) {
-            for (std::size_t i = 3; i < 6; ++i)
+            for (std::size_t i = 0; i < sources.size(); ++i)
                 largest = std::max(largest, std::abs(values[i]));
         });
     return largest;
@@ -131,8 +131,10 @@ Trajectories trajectories(const record::Record& record, const Inputs& inputs, co
     result.remarks.insert(result.remarks.end(), stretches.remarks.begin(), stretches.remarks.end());
 
     const std::vector<Source> sources = sourcesOf(record, inputs, conversion, frequency);
-    result.minimumCurrent = line.minimumCurrent > 0 ? line.minimumCurrent
-                                                    : smallestPart * largestCurrent(stretches.list, sources);
+    result.minimumCurrent =
+        line.minimumCurrent > 0
+            ? line.minimumCurrent
+            : smallestPart * largestOf(stretches.list, {sources.begin() + 3, sources.end()});
     const double start = earliest(record.time);
     for (const Stretch& stretch : stretches.list)
         slide(stretch, sources, [&](std::size_t position, const SixPhasors& values) {
