@@ -18,6 +18,10 @@
 #include <ZelCommonView/common/PointerNamedConnectionsDispatcher.h>
 #include <ZelCommonView/common/RectangleF.h>
 #include <ZelCommonView/common/StringHelper.h>
+#include <ZelCommonView/diagrams/IScrollInfo.h>
+#include <ZelCommonView/diagrams/MovableScrolledWindow.h>
+#include <ZelCommonView/diagrams/ScrolledWindowAdjustments.h>
+#include <ZelCommonView/diagrams/ZoomableScrolledWindow.h>
 #include <ZelCommonView/dialogs/DialogPresenter.h>
 #include <ZelCommonView/dialogs/FileDialogHelper.h>
 #include <ZelCommonView/dialogs/FileDialogPresenter.h>
