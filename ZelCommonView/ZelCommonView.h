@@ -18,6 +18,7 @@
 #include <ZelCommonView/common/PointerNamedConnectionsDispatcher.h>
 #include <ZelCommonView/common/RectangleF.h>
 #include <ZelCommonView/common/StringHelper.h>
+#include <ZelCommonView/diagrams/FiguresCoordsDrawer.h>
 #include <ZelCommonView/diagrams/IScrollInfo.h>
 #include <ZelCommonView/diagrams/MovableScrolledWindow.h>
 #include <ZelCommonView/diagrams/ScrolledWindowAdjustments.h>
