@@ -22,6 +22,8 @@
 #include <ZelCommonView/diagrams/IScrollInfo.h>
 #include <ZelCommonView/diagrams/MovableScrolledWindow.h>
 #include <ZelCommonView/diagrams/ScrolledWindowAdjustments.h>
+#include <ZelCommonView/diagrams/Style.h>
+#include <ZelCommonView/diagrams/StyleZoomHelper.h>
 #include <ZelCommonView/diagrams/ZoomableScrolledWindow.h>
 #include <ZelCommonView/dialogs/DialogPresenter.h>
 #include <ZelCommonView/dialogs/FileDialogHelper.h>
