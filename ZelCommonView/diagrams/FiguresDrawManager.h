@@ -19,9 +19,9 @@ public:
     /// painted in the order of their keys, which mean nothing else; they are moved out, and the map keeps its
     /// keys with null pointers. Entries that are null already are left out.
     ///
-    /// To be called on the GTK thread, whose main loop runs meanwhile until it has nothing to do, so that other
-    /// handlers of the application run too. One that is always ready holds it up for two seconds at most. What
-    /// can't be written is told as by `FragmentsDrawArea::saveSummaryImage`.
+    /// To be called on the GTK thread, whose main loop runs meanwhile until it has nothing to do, so that
+    /// other handlers of the application run too. One that is always ready holds it up for two seconds at
+    /// most. What can't be written is told as by `FragmentsDrawArea::saveSummaryImage`.
     virtual void saveToImage(const std::string& path, std::map<std::string, std::unique_ptr<Figure>>& figures,
                              const std::string& horizontalHeader, const std::string& verticalHeader) = 0;
 };

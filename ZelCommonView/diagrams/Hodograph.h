@@ -16,9 +16,9 @@ namespace ZelView {
 
 class TimedSeriesDrawer;
 
-/// Trajectories in the plane that unfold in time, with a button and two sliders to replay them below. One unit
-/// is equally long on both axes, and the axes cover all trajectories. The wheel zooms from 100 to 500 percent
-/// about the pointer, the left button drags the plane.
+/// Trajectories in the plane that unfold in time, with a button and two sliders to replay them below. One
+/// unit is equally long on both axes, and the axes cover all trajectories. The wheel zooms from 100 to 500
+/// percent about the pointer, the left button drags the plane.
 ///
 /// It is shown when it is made, and the replay runs as soon as there is a trajectory.
 class ZEL_API Hodograph : public Gtk::Bin {

@@ -18,9 +18,9 @@ class BaseFigureDrawer;
 class FiguresCoordsDrawer;
 class FiguresDrawer;
 
-/// The Z plane: figures under a grid, with a cursor that reads the place and with markers. One unit is equally
-/// long on both axes, and the axes cover all figures. The wheel zooms from 100 to 500 percent about the
-/// pointer, the left button drags the plane. It is shown when it is made.
+/// The Z plane: figures under a grid, with a cursor that reads the place and with markers. One unit is
+/// equally long on both axes, and the axes cover all figures. The wheel zooms from 100 to 500 percent about
+/// the pointer, the left button drags the plane. It is shown when it is made.
 class ZEL_API ZDiagram : public Gtk::Bin {
 public:
     ZDiagram();

@@ -27,7 +27,8 @@ std::unique_ptr<Zel::Circle> makeCircle(float x, float radius, Zel::Color color)
 
 class FiguresDrawManagerTest : public testing::Test {
 protected:
-    test::Picture save(Figures& figures, const std::string& horizontal = "R", const std::string& vertical = "X") {
+    test::Picture save(Figures& figures, const std::string& horizontal = "R",
+                       const std::string& vertical = "X") {
         const std::string path = (folder.path / "figures.png").string();
         Zel::FiguresDrawManager::getInstance().saveToImage(path, figures, horizontal, vertical);
         return test::pictureOfFile(path);

@@ -148,7 +148,8 @@ TEST_F(HodographTest, ShowsTheCurveUpToTheTime) {
     hodograph.addSeries(makeSquare());
     const auto pictureAt = [this](unsigned long time) {
         counter().setTime(time);
-        return test::paint(300, 300, [this](const auto& context) { hodograph.timedSeriesDrawer->draw(context); });
+        return test::paint(300, 300,
+                           [this](const auto& context) { hodograph.timedSeriesDrawer->draw(context); });
     };
     present();
     const int nothing = pictureAt(0).countPainted();

@@ -244,7 +244,8 @@ TEST_F(ZDiagramTest, FillsTheWindowAtEveryScaleAfterAResize) {
     zoomTo(200);
     window.resize(500, 360);
     EXPECT_TRUE(test::waitFor([this] {
-        return diagram->scrolled.get_allocated_width() == 500 && diagram->drawArea.get_allocated_width() == 1000;
+        return diagram->scrolled.get_allocated_width() == 500 &&
+               diagram->drawArea.get_allocated_width() == 1000;
     }));
     EXPECT_EQ(diagram->drawArea.get_allocated_height(), 2 * diagram->scrolled.get_allocated_height());
 }
