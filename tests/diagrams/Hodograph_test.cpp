@@ -21,7 +21,7 @@ std::unique_ptr<Zel::TimedSeries> seriesOf(std::vector<Zel::TimedPointF> points)
 
 /// A square of 10 units that is walked along in 300 ms.
 std::unique_ptr<Zel::TimedSeries> makeSquare() {
-    return seriesOf({{0, -5, -5}, {100, 5, -5}, {200, 5, 5}, {300, -5, 5}});
+    return seriesOf({{{-5, -5}, 0}, {{5, -5}, 100}, {{5, 5}, 200}, {{-5, 5}, 300}});
 }
 
 template <typename T>
@@ -67,8 +67,8 @@ TEST_F(HodographTest, StacksThePlotTheButtonAndTheTwoSliders) {
 
 TEST_F(HodographTest, KeepsOneUnitEquallyLongOnBothAxesWithLimitsOfTheSeries) {
     EXPECT_NE(dynamic_cast<const ProportionalCoordsConverter*>(&converter()), nullptr);
-    EXPECT_EQ(hodograph.drawArea.converterProxy.xMode, BordersMode::Auto);
-    EXPECT_EQ(hodograph.drawArea.converterProxy.yMode, BordersMode::Auto);
+    EXPECT_EQ(hodograph.drawArea.converterProxy.xBordersMode, BordersMode::Auto);
+    EXPECT_EQ(hodograph.drawArea.converterProxy.yBordersMode, BordersMode::Auto);
 }
 
 TEST_F(HodographTest, PaintsTheGridBelowAndTheSeriesOnTop) {
@@ -83,7 +83,7 @@ TEST_F(HodographTest, PaintsTheGridBelowAndTheSeriesOnTop) {
 TEST_F(HodographTest, AxesTakeInTheSeriesAndFallBackWithoutThem) {
     present();
     const float before = converter().getVisualX(5);
-    hodograph.addSeries(seriesOf({{0, -500, -500}, {100, 500, 500}}));
+    hodograph.addSeries(seriesOf({{{-500, -500}, 0}, {{500, 500}, 100}}));
     EXPECT_NE(converter().getVisualX(5), before);
     EXPECT_LT(converter().getVisualX(500), hodograph.drawArea.getFragmensDrawArea().get_allocated_width());
     EXPECT_GT(converter().getVisualX(-500), 0);
@@ -96,7 +96,7 @@ TEST_F(HodographTest, TheReplayRunsAtOnceAndEndsWithTheLongestSeries) {
     EXPECT_EQ(controls().getRunButton().get_label(), "Пауза");
     hodograph.addSeries(makeSquare());
     EXPECT_EQ(counter().getMax(), 300u);
-    hodograph.addSeries(seriesOf({{0, 1, 1}, {200, 2, 2}}));
+    hodograph.addSeries(seriesOf({{{1, 1}, 0}, {{2, 2}, 200}}));
     EXPECT_EQ(counter().getMax(), 300u);
     EXPECT_EQ(hodograph.series.size(), 2u);
     hodograph.deleteSeries();

@@ -89,8 +89,8 @@ TEST_F(ZDiagramTest, IsAScrolledPlotInAGrid) {
     EXPECT_TRUE(is<FiguresCoordsDrawer>(diagram->getCoordsDrawer()));
     EXPECT_EQ(diagram->getCoordsDrawer()->scrollInfo, &diagram->scrolled.getScrollInfo());
     EXPECT_NE(dynamic_cast<const ProportionalCoordsConverter*>(&converter()), nullptr);
-    EXPECT_EQ(diagram->drawArea.converterProxy.xMode, BordersMode::Auto);
-    EXPECT_EQ(diagram->drawArea.converterProxy.yMode, BordersMode::Auto);
+    EXPECT_EQ(diagram->drawArea.converterProxy.xBordersMode, BordersMode::Auto);
+    EXPECT_EQ(diagram->drawArea.converterProxy.yBordersMode, BordersMode::Auto);
 }
 
 TEST_F(ZDiagramTest, HasFourDrawersInTheOrderOfAdding) {
