@@ -13,7 +13,7 @@ SeriesTimeCounter::~SeriesTimeCounter() = default;
 
 void SeriesTimeCounter::setIsPaused(bool value) {
     paused = value;
-    pausedChanged.emit(paused); // also when nothing changed, which is meant
+    emitKept(pausedChanged, paused); // also when nothing changed, which is meant
 }
 
 void SeriesTimeCounter::setSpeed(float value) {
@@ -25,7 +25,7 @@ void SeriesTimeCounter::setMax(unsigned long value) {
     const LifeWatch life(*this);
     _setCurrTime(currentTime);
     if (life)
-        maxChanged.emit(max);
+        emitKept(maxChanged, max);
 }
 
 void SeriesTimeCounter::setTime(unsigned long value) {
@@ -50,7 +50,7 @@ void SeriesTimeCounter::_setCurrTime(std::uint64_t time) {
     if (currentTime == lastEmittedTime)
         return;
     const LifeWatch life(*this);
-    timeChanged.emit(currentTime);
+    emitKept(timeChanged, currentTime);
     if (life)
         lastEmittedTime = currentTime;
 }

@@ -40,7 +40,7 @@ void TimeCounterManager::_onSynced(unsigned long milliseconds) {
         return;
     // What goes beyond the period is passed on with the rest, so nothing is carried over.
     const LifeWatch life(*this);
-    tick.emit(gathered);
+    emitKept(tick, gathered);
     if (life)
         gathered = 0;
 }

@@ -66,8 +66,7 @@ int main(int argc, char** argv) {
     others.clear();
     printThreads();
     static ZelView::SeriesTimeCounter lasting;
-    static const auto* const forgotten = new ZelView::SeriesTimeCounter;
-    (void)forgotten;
+    static std::atomic<ZelView::SeriesTimeCounter*> forgotten{new ZelView::SeriesTimeCounter};
 
     if (ending == "stuck") {
         sleeps = 0;
