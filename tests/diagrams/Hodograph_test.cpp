@@ -161,6 +161,7 @@ TEST_F(HodographTest, ShowsTheCurveUpToTheTime) {
 }
 
 TEST_F(HodographTest, TheWheelZoomsAndARealDragMovesTheView) {
+    counter().setIsPaused(true);
     present();
     hodograph.addSeries(makeSquare());
     for (int i = 0; i < 20; ++i)
@@ -172,8 +173,8 @@ TEST_F(HodographTest, TheWheelZoomsAndARealDragMovesTheView) {
     const double x = hodograph.scrolled.get_hadjustment()->get_value();
     const double y = hodograph.scrolled.get_vadjustment()->get_value();
     test::drag(hodograph.scrolled, 200, 150, 140, 110);
-    EXPECT_EQ(hodograph.scrolled.get_hadjustment()->get_value(), x + 60);
-    EXPECT_EQ(hodograph.scrolled.get_vadjustment()->get_value(), y + 40);
+    EXPECT_NEAR(hodograph.scrolled.get_hadjustment()->get_value(), x + 60, 0.1);
+    EXPECT_NEAR(hodograph.scrolled.get_vadjustment()->get_value(), y + 40, 0.1);
 }
 
 TEST_F(HodographTest, EndsCompletelyEvenWhileItRuns) {
