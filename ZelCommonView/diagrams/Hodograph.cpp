@@ -9,7 +9,7 @@ namespace ZelView {
 Hodograph::Hodograph() : scrolled(DiagramScale::smallest, DiagramScale::largest, DiagramScale::step) {
     _initDrawArea();
     _initDrawers();
-    counterControls = std::make_unique<CounterControls>(timedSeriesDrawer->getCounter());
+    counterControls = std::make_unique<CounterControls>(getCounter());
     _compose();
     show_all();
 }
@@ -29,6 +29,10 @@ void Hodograph::deleteSeries() {
         drawArea.deleteBorderable(*one);
     series.clear();
     timedSeriesDrawer->deleteSeries();
+}
+
+SeriesTimeCounter& Hodograph::getCounter() {
+    return timedSeriesDrawer->getCounter();
 }
 
 void Hodograph::_initDrawArea() {

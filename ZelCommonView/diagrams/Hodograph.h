@@ -14,6 +14,7 @@
 
 namespace ZelView {
 
+class SeriesTimeCounter;
 class TimedSeriesDrawer;
 
 /// Trajectories in the plane that unfold in time, with a button and two sliders to replay them below. One
@@ -31,6 +32,10 @@ public:
     void addSeries(std::unique_ptr<Zel::TimedSeries> series);
     /// Deletes all trajectories; the time stands at 0.
     void deleteSeries();
+
+    /// The clock of the replay, for an application that sets the time or stops it itself; stays the
+    /// hodograph's.
+    SeriesTimeCounter& getCounter();
 
 private:
     void _initDrawArea();

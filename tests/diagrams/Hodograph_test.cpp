@@ -36,7 +36,7 @@ class HodographTest : public testing::Test {
 protected:
     CounterControls& controls() { return *hodograph.counterControls; }
 
-    SeriesTimeCounter& counter() { return hodograph.timedSeriesDrawer->getCounter(); }
+    SeriesTimeCounter& counter() { return hodograph.getCounter(); }
 
     const CoordsConverter& converter() { return *hodograph.drawArea.converterProxy.getConverter(); }
 
@@ -94,6 +94,7 @@ TEST_F(HodographTest, AxesTakeInTheSeriesAndFallBackWithoutThem) {
 TEST_F(HodographTest, TheReplayRunsAtOnceAndEndsWithTheLongestSeries) {
     EXPECT_FALSE(counter().getIsPaused());
     EXPECT_EQ(controls().getRunButton().get_label(), "Пауза");
+    EXPECT_EQ(&counter(), &hodograph.timedSeriesDrawer->getCounter());
     hodograph.addSeries(makeSquare());
     EXPECT_EQ(counter().getMax(), 300u);
     hodograph.addSeries(seriesOf({{{1, 1}, 0}, {{2, 2}, 200}}));

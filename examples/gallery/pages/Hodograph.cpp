@@ -4,6 +4,7 @@
 #include "Pages.h"
 
 #include <ZelCommonView/diagrams/Hodograph.h>
+#include <ZelCommonView/plot/SeriesTimeCounter.h>
 
 #include <gtkmm.h>
 
@@ -17,6 +18,8 @@ class Trajectories : public Gtk::Box {
 public:
     Trajectories() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 8) {
         _onAdd();
+        hodograph.getCounter().setIsPaused(true);
+        hodograph.getCounter().setTime(3300);
         addButton.signal_clicked().connect(sigc::mem_fun(*this, &Trajectories::_onAdd), true);
         removeButton.signal_clicked().connect(sigc::mem_fun(*this, &Trajectories::_onRemove), true);
         for (Gtk::Button* button : {&addButton, &removeButton})

@@ -62,7 +62,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<Gtk::Widget> makeTextSizePage() {
+std::unique_ptr<Gtk::Widget> makeTextsPage() {
     return std::make_unique<TextSize>();
 }
 
