@@ -6,7 +6,16 @@
 
 namespace viewer {
 
+namespace {
+
+constexpr int sliderMargin = 12; // pixels
+
+} // namespace
+
 HodographPage::HodographPage() {
+    // The number above a slider at its end stands out to the side.
+    hodograph.set_margin_start(sliderMargin);
+    hodograph.set_margin_end(sliderMargin);
     _setPlane(hodograph);
     // The sliders stand below one another; the last is that of the time.
     timeSlider = dynamic_cast<Gtk::Scale*>(findWidget<Gtk::Grid>(hodograph)->get_child_at(0, 3));

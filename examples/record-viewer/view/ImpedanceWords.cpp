@@ -24,7 +24,6 @@ const Word sentences[] = {
      "В записи нет токов трёх фаз, поэтому сопротивление вычислить нельзя."},
     {"The record has no voltages and currents of the three phases, so there is no impedance to compute.",
      "В записи нет напряжений и токов трёх фаз, поэтому сопротивление вычислить нельзя."},
-    {"The channels of the three phases are not complete.", "Каналы трёх фаз записаны не полностью."},
     {"The record has no impedance to show.", "В записи нет сопротивления, которое можно показать."},
     {"The record does not tell the frequency of the network.", "В записи не указана частота сети."},
     {"The record does not tell when its samples were taken.", "В записи не указано время отсчётов."},
@@ -57,11 +56,11 @@ std::string ohms(double value) {
     return number(value) + say({" ohm", " Ом"});
 }
 
-/// "1 point", "2 points"; one form serves the Russian "точек: 2".
-std::string pointCount(std::size_t count) {
+/// "1 point", "2 points"; one form serves the Russian "точек: 2". What is said of them goes with it.
+std::string pointCount(std::size_t count, const std::string& said) {
     if (lng::index() == 1)
-        return "точек: " + std::to_string(count);
-    return std::to_string(count) + (count == 1 ? " point" : " points");
+        return said + (said.empty() ? "" : " ") + "точек: " + std::to_string(count);
+    return std::to_string(count) + (count == 1 ? " point" : " points") + (said.empty() ? "" : " ") + said;
 }
 
 std::string sideOf(const Impedances& impedances) {
@@ -103,12 +102,13 @@ std::string problemOf(const Impedances& impedances) {
 
 std::string statusOf(const Impedances& impedances, impedance::Loop loop, const LoopView& view) {
     std::string text = std::string(say({"Loop ", "Контур "})) + impedance::name(loop) + ": " +
-                       pointCount(view.points.size()) + sideOf(impedances) + ".";
+                       pointCount(view.points.size(), "") + sideOf(impedances) + ".";
     if (view.leftOut > 0)
-        text += std::string(say({" Beyond ", " Дальше "})) + ohms(view.farthest) +
-                say({" lie ", " не показано "}) + pointCount(view.leftOut) +
-                say({" more, which are left out.", "."});
-    text += std::string(say({" Without a point where the loop has less than ",
+        text += " " +
+                pointCount(view.leftOut, say({"beyond ", "Дальше "}) + ohms(view.farthest) +
+                                             say({" left out.", " не показано"})) +
+                say({"", "."});
+    text += std::string(say({" No points where the loop's current is below ",
                              " Точек нет там, где ток контура меньше "})) +
             number(impedances.trajectories.minimumCurrent) + say({" A.", " А."});
     return text + remarksOf(impedances);

@@ -40,14 +40,6 @@ double sizeInFault(const record::Record& record, const std::vector<impedance::Po
     return 0;
 }
 
-bool areSampled(const record::Record& record, const impedance::Inputs& inputs) {
-    const auto isSampled = [&](std::size_t channel) {
-        return record.analogs[channel].samples.size() == record.size();
-    };
-    return std::all_of(inputs.voltages.begin(), inputs.voltages.end(), isSampled) &&
-           std::all_of(inputs.currents.begin(), inputs.currents.end(), isSampled);
-}
-
 bool isEmpty(const impedance::Trajectories& all) {
     return std::all_of(all.loops.begin(), all.loops.end(), [](const auto& points) { return points.empty(); });
 }
@@ -59,10 +51,6 @@ Impedances computeImpedances(const record::Record& record, const impedance::Line
     const impedance::Choice choice = impedance::chooseInputs(record);
     if (!choice.inputs) {
         result.problem = choice.problem;
-        return result;
-    }
-    if (!areSampled(record, *choice.inputs)) {
-        result.problem = "The channels of the three phases are not complete.";
         return result;
     }
     const std::optional<Interval> found = findFault(record);

@@ -8,16 +8,12 @@ namespace viewer {
 MainWindow::MainWindow(const std::string& title) {
     set_title(title);
     set_default_size(1280, 860);
-    stack.add(page, "oscillogram", words::oscillogram());
-    stack.add(hodograph, "hodograph", words::hodograph());
-    stack.add(plane, "z-plane", words::zPlane());
-    switcher.set_stack(stack);
-    switcher.set_halign(Gtk::ALIGN_CENTER);
-    switcher.property_margin() = 4;
-    box.pack_start(switcher, Gtk::PACK_SHRINK);
-    box.pack_start(stack, Gtk::PACK_EXPAND_WIDGET);
-    add(box);
-    box.show_all();
+    notebook.append_page(page, words::oscillogram());
+    notebook.append_page(hodograph, words::hodograph());
+    notebook.append_page(plane, words::zPlane());
+    notebook.set_show_border(false);
+    add(notebook);
+    notebook.show();
     _tiePages();
     examples::installTextZoom(*this);
 }

@@ -6,9 +6,7 @@
 
 #include <ZelCommonView/presentation/ViewPresenter.h>
 
-#include <gtkmm/box.h>
-#include <gtkmm/stack.h>
-#include <gtkmm/stackswitcher.h>
+#include <gtkmm/notebook.h>
 #include <gtkmm/window.h>
 
 #include <string>
@@ -32,9 +30,7 @@ public:
 private:
     void _tiePages();
 
-    Gtk::Box box{Gtk::ORIENTATION_VERTICAL};
-    Gtk::StackSwitcher switcher;
-    Gtk::Stack stack;
+    Gtk::Notebook notebook;
 };
 
 } // namespace viewer

@@ -11,6 +11,7 @@ namespace viewer {
 
 namespace {
 
+constexpr double captionDistance = 0.03; // from the outline, in lines
 constexpr Zel::Color trajectoryColor = {200, 0, 0, 255};
 constexpr Zel::Color dotColor = {40, 40, 40, 255};
 constexpr Zel::Color zoneColors[] = {{0, 130, 60, 255}, {190, 110, 0, 255}, {70, 90, 190, 255}};
@@ -97,7 +98,8 @@ void ZPlanePage::_addZone(const impedance::Zone& zone, Zel::Color color, Bounds&
         }
         diagram.addFigure(std::move(outline));
     }
-    _addCaption(words::zoneName(zone.name), top.real(), top.imag(), color);
+    const double distance = captionDistance * std::abs(_getImpedances().line);
+    _addCaption(words::zoneName(zone.name), top.real(), top.imag() + distance, color);
 }
 
 void ZPlanePage::_addCaption(const std::string& text, double x, double y, Zel::Color color) {
