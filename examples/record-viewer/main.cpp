@@ -2,10 +2,10 @@
 #include "common/CommandLine.h"
 #include "info/Info.h"
 #include "reader/Reader.h"
+#include "view/ImpedanceWords.h"
 #include "view/Loader.h"
 #include "view/MainWindow.h"
 #include "view/Pictures.h"
-
 #include "view/Words.h"
 
 #include <ZelCommonView/dialogs/DialogPresenter.h>
@@ -16,6 +16,7 @@
 #include <clocale>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 
 namespace {
 
@@ -33,21 +34,27 @@ record::Options optionsOf(const viewer::Arguments& arguments) {
     return options;
 }
 
-record::Record withAxis(record::Record record, const std::string& axis) {
+void setAxis(record::Record& record, const std::string& axis) {
     if (!axis.empty())
         record.time.setRule(axis == "rates" ? record::TimeAxis::Rule::Rates : record::TimeAxis::Rule::Stamps);
-    return record;
 }
 
 record::Record read(const viewer::Arguments& arguments) {
-    return withAxis(record::open(arguments.file, optionsOf(arguments)), arguments.axis);
+    record::Record record = record::open(arguments.file, optionsOf(arguments));
+    setAxis(record, arguments.axis);
+    return record;
 }
 
 /// Reads a large record behind a dialog over the window; false if there is nothing to show.
 bool loadInto(viewer::MainWindow& window, const viewer::Arguments& arguments) {
     try {
-        window.page.setRecord(
-            withAxis(viewer::loadBehindDialog(window, arguments.file, optionsOf(arguments)), arguments.axis));
+        viewer::Impedances impedances;
+        record::Record record =
+            viewer::loadBehindDialog(window, arguments.file, optionsOf(arguments), [&](record::Record& read) {
+                setAxis(read, arguments.axis);
+                impedances = viewer::computeImpedances(read);
+            });
+        window.setRecord(std::move(record), std::move(impedances));
         return true;
     } catch (const record::Cancelled&) {
         return false;
@@ -69,15 +76,17 @@ int show(const viewer::Arguments& arguments) {
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
     viewer::MainWindow window(std::filesystem::path(arguments.file).filename().string());
     int code = Success;
-    if (record)
-        window.page.setRecord(std::move(*record));
-    else
+    if (record) {
+        viewer::Impedances impedances = viewer::computeImpedances(*record);
+        window.setRecord(std::move(*record), std::move(impedances));
+    } else {
         Glib::signal_idle().connect_once([&] {
             if (loadInto(window, arguments))
                 return;
             code = Failure;
             window.close();
         });
+    }
     application->run(window);
     return code;
 }
@@ -89,11 +98,17 @@ int writePictures(const viewer::Arguments& arguments, record::Record record) {
     const std::string extension = Glib::ustring(path.extension().string()).lowercase();
     const bool isPair = extension == ".cfg" || extension == ".dat";
     const std::string stem = (isPair ? path.stem() : path.filename()).string();
+    const auto impedances = std::make_shared<const viewer::Impedances>(viewer::computeImpedances(record));
     record::Record copy = record; // both ways of painting take the samples
     std::cout << viewer::writeOscillogram(std::move(copy), arguments.pictureFolder, stem) << "\n";
     for (const std::string& picture :
          viewer::writePictures(viewer::makeSections(record), arguments.pictureFolder, stem))
         std::cout << picture << "\n";
+    if (impedances->problem.empty())
+        for (const std::string& picture : viewer::writeImpedances(impedances, arguments.pictureFolder, stem))
+            std::cout << picture << "\n";
+    else
+        complain(viewer::words::problemOf(*impedances), Success);
     return Success;
 }
 

@@ -65,7 +65,9 @@ TEST_F(ViewerTest, TellsWhatItReadForAProgram) {
 TEST_F(ViewerTest, WritesAPictureAndPrintsItsPath) {
     const Result result = run("--png " + file("pictures") + " " + file("small.cfg"));
     EXPECT_EQ(result.code, 0);
-    EXPECT_EQ(result.errors, "");
+    // There is nothing to compute an impedance from, which is no failure.
+    EXPECT_EQ(result.errors, "record-viewer: The record has no voltages and currents of the three phases, so "
+                             "there is no impedance to compute.\n");
     EXPECT_EQ(result.output, (folder.path / "pictures" / "small-oscillogram.png\n").string() +
                                  (folder.path / "pictures" / "small.png\n").string());
     const test::Picture oscillogram = test::pictureOfFile(folder.path / "pictures" / "small-oscillogram.png");
@@ -83,6 +85,23 @@ TEST_F(ViewerTest, WritesAPictureAndPrintsItsPath) {
             colored += pixel[0] > pixel[2] + 60; // the orange of the first curve
         }
     EXPECT_GT(colored, 1000);
+}
+
+TEST_F(ViewerTest, WritesThePlanesOfAFaultTheSameEachTime) {
+    for (const char* const name : {"a", "b"}) {
+        const Result result = run("--png " + file(name) + " '" + DEMO_RECORD + "'");
+        EXPECT_EQ(result.code, 0);
+        EXPECT_EQ(result.errors, "");
+        EXPECT_NE(result.output.find((folder.path / name / "line-fault-hodograph.png\n").string() +
+                                     (folder.path / name / "line-fault-zplane.png\n").string()),
+                  std::string::npos);
+    }
+    for (const char* const name : {"line-fault-hodograph.png", "line-fault-zplane.png"}) {
+        const test::Picture picture = test::pictureOfFile(folder.path / "a" / name);
+        EXPECT_EQ(picture.width, 1400);
+        EXPECT_EQ(picture.height, 900);
+        EXPECT_TRUE(picture == test::pictureOfFile(folder.path / "b" / name)) << name;
+    }
 }
 
 TEST_F(ViewerTest, WithoutADisplaySaysSoAndHowToDoWithout) {

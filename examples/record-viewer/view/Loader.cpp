@@ -33,7 +33,8 @@ bool isLarge(const std::string& file) {
     return size >= largeFile;
 }
 
-record::Record loadBehindDialog(Zel::IView& parent, const std::string& file, record::Options options) {
+record::Record loadBehindDialog(Zel::IView& parent, const std::string& file, record::Options options,
+                                const std::function<void(record::Record&)>& prepare) {
     std::optional<record::Record> record;
     std::exception_ptr failure;
     std::atomic<bool> isStopped{false};
@@ -51,6 +52,12 @@ record::Record loadBehindDialog(Zel::IView& parent, const std::string& file, rec
         const auto work = [&] {
             try {
                 record = record::open(file, options);
+                if (prepare && !isStopped) {
+                    dialog.setMessage(words::preparing());
+                    prepare(*record);
+                }
+                if (isStopped)
+                    throw record::Cancelled("the reading was cancelled");
             } catch (...) {
                 failure = std::current_exception();
             }

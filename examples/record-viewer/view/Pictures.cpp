@@ -1,7 +1,9 @@
 #include "Pictures.h"
 
+#include "HodographPage.h"
 #include "RecordPage.h"
 #include "SignalPlot.h"
+#include "ZPlanePage.h"
 
 #include <gtkmm.h>
 
@@ -90,6 +92,25 @@ std::vector<std::string> writePictures(std::vector<Section> sections, const std:
         paths.push_back(Glib::build_filename(folder, stem + number + ".png"));
         takePicture(pictures[i])->save(paths.back(), "png");
         pictures[i].clear();
+    }
+    return paths;
+}
+
+std::vector<std::string> writeImpedances(const std::shared_ptr<const Impedances>& impedances,
+                                         const std::string& folder, const std::string& stem) {
+    makeFolder(folder);
+    HodographPage hodograph;
+    hodograph.setImpedances(impedances);
+    hodograph.stopAtEnd();
+    ZPlanePage plane;
+    plane.setImpedances(impedances);
+    const std::pair<ImpedancePage*, const char*> pages[] = {{&hodograph, "-hodograph.png"},
+                                                            {&plane, "-zplane.png"}};
+    std::vector<std::string> paths;
+    for (const auto& [page, end] : pages) {
+        page->set_size_request(pictureWidth, oscillogramHeight);
+        paths.push_back(Glib::build_filename(folder, stem + end));
+        takePicture(*page, *page)->save(paths.back(), "png");
     }
     return paths;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "Impedances.h"
 #include "Signals.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -16,5 +18,11 @@ std::string writeOscillogram(record::Record record, const std::string& folder, c
 /// the paths. Throws `Glib::Error` where a file can't be written. Needs a display.
 std::vector<std::string> writePictures(std::vector<Section> sections, const std::string& folder,
                                        const std::string& stem);
+
+/// Paints both pages of impedances as the window shows them, with the whole trajectory of the loop of the
+/// fault, and writes "<stem>-hodograph.png" and "<stem>-zplane.png" into the folder, like `writePictures`.
+/// Returns the paths.
+std::vector<std::string> writeImpedances(const std::shared_ptr<const Impedances>& impedances,
+                                         const std::string& folder, const std::string& stem);
 
 } // namespace viewer

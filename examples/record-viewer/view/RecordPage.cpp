@@ -1,5 +1,6 @@
 #include "RecordPage.h"
 
+#include "FindWidget.h"
 #include "Words.h"
 
 #include <ZelCommonView/oscillogram/SeriesGroupDrawArea.h>
@@ -18,20 +19,6 @@ namespace {
 constexpr int rowHeight = 16;         // of a binary, pixels
 constexpr int binaryMargins = 40;     // above and below the rows, pixels
 constexpr int maxBinaryHeight = 8000; // a canvas and its pictures stay within reason, pixels
-
-/// The first widget of the type below a container, or null.
-template <typename T>
-T* findWidget(Gtk::Widget& widget) {
-    if (T* const found = dynamic_cast<T*>(&widget))
-        return found;
-    T* found = nullptr;
-    if (auto* const container = dynamic_cast<Gtk::Container*>(&widget))
-        container->forall([&found](Gtk::Widget& child) {
-            if (!found)
-                found = findWidget<T>(child);
-        });
-    return found;
-}
 
 /// Legend rows stand on the colours of their signals, and those of binaries beside rows of 16 pixels.
 void loadStyle() {

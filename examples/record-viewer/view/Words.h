@@ -45,6 +45,41 @@ inline const char* seconds() {
     return ar[lng::index()];
 }
 
+inline const char* loop() {
+    static const char* const ar[] = {"Loop", "Контур"};
+    return ar[lng::index()];
+}
+
+inline const char* zones() {
+    static const char* const ar[] = {"Zones", "Зоны"};
+    return ar[lng::index()];
+}
+
+inline const char* mho() {
+    static const char* const ar[] = {"Circles (mho)", "Окружности"};
+    return ar[lng::index()];
+}
+
+inline const char* quadrilateral() {
+    static const char* const ar[] = {"Quadrilaterals", "Четырёхугольники"};
+    return ar[lng::index()];
+}
+
+inline const char* oscillogram() {
+    static const char* const ar[] = {"Oscillogram", "Осциллограмма"};
+    return ar[lng::index()];
+}
+
+inline const char* hodograph() {
+    static const char* const ar[] = {"Hodograph", "Годограф"};
+    return ar[lng::index()];
+}
+
+inline const char* zPlane() {
+    static const char* const ar[] = {"Z plane", "Плоскость Z"};
+    return ar[lng::index()];
+}
+
 inline const char* warnings() {
     static const char* const ar[] = {"warnings, the first", "предупреждений, первое"};
     return ar[lng::index()];

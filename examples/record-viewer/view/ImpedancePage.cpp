@@ -1,0 +1,73 @@
+#include "ImpedancePage.h"
+
+#include "ImpedanceWords.h"
+#include "Words.h"
+
+namespace viewer {
+
+ImpedancePage::~ImpedancePage() = default;
+
+ImpedancePage::ImpedancePage() : Gtk::Box(Gtk::ORIENTATION_VERTICAL) {
+    loopLabel.set_text(words::loop());
+    for (std::size_t i = 0; i < impedance::loopCount; ++i)
+        loops.append(impedance::name(static_cast<impedance::Loop>(i)));
+    loops.set_active(0);
+    loops.set_sensitive(false);
+    loopConnection = loops.signal_changed().connect(sigc::mem_fun(*this, &ImpedancePage::_onLoopChanged));
+    choices.pack_start(loopLabel, Gtk::PACK_SHRINK);
+    choices.pack_start(loops, Gtk::PACK_SHRINK);
+    choices.property_margin() = 6;
+
+    problem.set_line_wrap(true);
+    problem.property_margin() = 24;
+    problem.show();
+    stack.add(problem);
+    status.set_line_wrap(true);
+    status.set_xalign(0);
+    status.property_margin() = 4;
+    pack_start(choices, Gtk::PACK_SHRINK);
+    pack_start(stack, Gtk::PACK_EXPAND_WIDGET);
+    pack_start(status, Gtk::PACK_SHRINK);
+    show_all();
+}
+
+void ImpedancePage::setImpedances(std::shared_ptr<const Impedances> value) {
+    impedances = std::move(value);
+    loop = impedances->trajectories.shown;
+    loopConnection.block();
+    loops.set_active(static_cast<int>(loop));
+    loopConnection.unblock();
+    _refresh();
+}
+
+void ImpedancePage::chooseLoop(impedance::Loop chosen) {
+    loops.set_active(static_cast<int>(chosen));
+}
+
+void ImpedancePage::_setPlane(Gtk::Widget& plane) {
+    plane.show();
+    stack.add(plane);
+}
+
+void ImpedancePage::_onLoopChanged() {
+    loop = static_cast<impedance::Loop>(loops.get_active_row_number());
+    if (impedances)
+        _refresh();
+    signalLoopChosen.emit(loop);
+}
+
+void ImpedancePage::_refresh() {
+    const bool isShown = impedances->problem.empty();
+    view = viewOf(*impedances, loop);
+    _showLoop();
+    for (Gtk::Widget* const child : stack.get_children())
+        if ((child != &problem) == isShown)
+            stack.set_visible_child(*child);
+    loops.set_sensitive(isShown);
+    problem.set_text(words::problemOf(*impedances));
+    const std::string remark = isShown ? _getRemark() : "";
+    status.set_text(
+        !isShown ? "" : words::statusOf(*impedances, loop, view) + (remark.empty() ? "" : " " + remark));
+}
+
+} // namespace viewer
