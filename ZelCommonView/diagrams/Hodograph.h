@@ -37,6 +37,9 @@ public:
     /// hodograph's.
     SeriesTimeCounter& getCounter();
 
+    /// The plot, for an application that sets the axes itself; stays the hodograph's.
+    SeriesGroupDrawArea& getDrawArea() { return drawArea; }
+
 private:
     void _initDrawArea();
     void _initDrawers();

@@ -59,6 +59,7 @@ TEST_F(HodographTest, StacksThePlotTheButtonAndTheTwoSliders) {
     EXPECT_EQ(hodograph.grid.get_child_at(0, 2), &controls().getSpeedSlider());
     EXPECT_EQ(hodograph.grid.get_child_at(0, 3), &controls().getTimeSlider());
     EXPECT_EQ(hodograph.scrolled.currentWidget, &hodograph.drawArea);
+    EXPECT_EQ(&hodograph.getDrawArea(), &hodograph.drawArea);
     EXPECT_TRUE(hodograph.get_visible());
     EXPECT_EQ(hodograph.scrolled.minScale, 100u);
     EXPECT_EQ(hodograph.scrolled.maxScale, 500u);

@@ -64,7 +64,7 @@ protected:
         FAIL() << "no page named " << label;
     }
 
-    Gtk::Scale& timeSlider() { return *window->hodograph.timeSlider; }
+    Gtk::Scale& timeSlider() { return window->hodograph.hodograph.counterControls->getTimeSlider(); }
 
     Gtk::Button& runButton() { return *findRunButton(); }
 

@@ -1,8 +1,6 @@
 #include "HodographPage.h"
 
-#include "FindWidget.h"
-
-#include <gtkmm/grid.h>
+#include <ZelCommonView/plot/SeriesTimeCounter.h>
 
 namespace viewer {
 
@@ -17,23 +15,18 @@ HodographPage::HodographPage() {
     hodograph.set_margin_start(sliderMargin);
     hodograph.set_margin_end(sliderMargin);
     _setPlane(hodograph);
-    // The sliders stand below one another; the last is that of the time.
-    timeSlider = dynamic_cast<Gtk::Scale*>(findWidget<Gtk::Grid>(hodograph)->get_child_at(0, 3));
-    timeSlider->signal_value_changed().connect(sigc::mem_fun(*this, &HodographPage::_onTimeChanged));
-    // The axes of a hodograph take in what reaches from -1 to 10 at least, which would hide small impedances.
-    auto* const area = findWidget<ZelView::SeriesGroupDrawArea>(hodograph);
-    area->setXBordersMode(ZelView::BordersMode::Manual);
-    area->setYBordersMode(ZelView::BordersMode::Manual);
+    hodograph.getCounter().timeChanged.connect(sigc::mem_fun(*this, &HodographPage::_onTimeChanged));
+    // Automatic axes reach from -1 to 10 at least, which would hide small impedances.
+    hodograph.getDrawArea().setXBordersMode(ZelView::BordersMode::Manual);
+    hodograph.getDrawArea().setYBordersMode(ZelView::BordersMode::Manual);
 }
 
 HodographPage::~HodographPage() = default;
 
 void HodographPage::stopAtEnd() {
-    const double end = timeSlider->get_adjustment()->get_upper();
-    // What isn't moved doesn't stop the clock.
-    if (timeSlider->get_value() == end)
-        timeSlider->set_value(0);
-    timeSlider->set_value(end);
+    ZelView::SeriesTimeCounter& counter = hodograph.getCounter();
+    counter.setIsPaused(true);
+    counter.setTime(counter.getMax());
 }
 
 void HodographPage::_showLoop() {
@@ -41,9 +34,9 @@ void HodographPage::_showLoop() {
     hodograph.deleteSeries();
     Bounds bounds = seen.bounds();
     bounds.addMargin();
-    auto* const area = findWidget<ZelView::SeriesGroupDrawArea>(hodograph);
-    area->setXBorders(static_cast<float>(bounds.xMin), static_cast<float>(bounds.xMax));
-    area->setYBorders(static_cast<float>(bounds.yMin), static_cast<float>(bounds.yMax));
+    ZelView::SeriesGroupDrawArea& area = hodograph.getDrawArea();
+    area.setXBorders(static_cast<float>(bounds.xMin), static_cast<float>(bounds.xMax));
+    area.setYBorders(static_cast<float>(bounds.yMin), static_cast<float>(bounds.yMax));
     for (const auto& [first, end] : seen.runs) {
         auto series = std::make_unique<Zel::TimedSeries>();
         series->color = {200, 0, 0, 255};
@@ -56,8 +49,8 @@ void HodographPage::_showLoop() {
     }
 }
 
-void HodographPage::_onTimeChanged() {
-    signalTimeChanged.emit(static_cast<std::uint64_t>(timeSlider->get_value()));
+void HodographPage::_onTimeChanged(unsigned long time) {
+    signalTimeChanged.emit(time);
 }
 
 } // namespace viewer

@@ -4,8 +4,6 @@
 
 #include <ZelCommonView/diagrams/Hodograph.h>
 
-#include <gtkmm/scale.h>
-
 #include <cstdint>
 
 namespace viewer {
@@ -24,10 +22,9 @@ public:
 
 private:
     void _showLoop() override;
-    void _onTimeChanged();
+    void _onTimeChanged(unsigned long time);
 
     ZelView::Hodograph hodograph;
-    Gtk::Scale* timeSlider = nullptr; ///< the hodograph's
 };
 
 } // namespace viewer
