@@ -110,8 +110,10 @@ void ZoomableScrolledWindow::_updateChildSize() {
     if (scale == lastScale)
         return;
     lastScale = scale;
-    // Last: a handler may destroy this window.
-    signalScaleChanged.emit(scale);
+    // Last, and by a copy: a handler may destroy this window, and a signal that dies while it is emitted
+    // leaks.
+    const auto signal = signalScaleChanged;
+    signal.emit(scale);
 }
 
 bool ZoomableScrolledWindow::_onResizeQueued() {
