@@ -19,6 +19,7 @@ class LabelAsView : public Gtk::Label, public IView {};
 class ConfirmWindowTest : public testing::Test {
 protected:
     ConfirmWindowTest() { content.set_label("content"); }
+
     ~ConfirmWindowTest() override { lng::language = 0; }
 
     ConfirmWindowView& view() { return dynamic_cast<ConfirmWindowView&>(*presenter->getView()); }

@@ -12,6 +12,7 @@ namespace {
 using namespace Zel;
 
 class EntryAsView : public Gtk::Entry, public IView {};
+
 class PlainView : public IView {};
 
 class GrabPanelViewTest : public testing::Test {

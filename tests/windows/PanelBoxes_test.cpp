@@ -91,11 +91,8 @@ TEST(OverlayBoxView, ShowsOneIconInACross) {
     EXPECT_FALSE(box.grid.get_vexpand());
     EXPECT_EQ(box.grid.get_halign(), Gtk::ALIGN_CENTER);
     EXPECT_EQ(box.grid.get_valign(), Gtk::ALIGN_CENTER);
-    const std::tuple<Gtk::Image*, int, int> places[] = {{&box.top, 1, 0},
-                                                        {&box.left, 0, 1},
-                                                        {&box.center, 1, 1},
-                                                        {&box.right, 2, 1},
-                                                        {&box.bottom, 1, 2}};
+    const std::tuple<Gtk::Image*, int, int> places[] = {
+        {&box.top, 1, 0}, {&box.left, 0, 1}, {&box.center, 1, 1}, {&box.right, 2, 1}, {&box.bottom, 1, 2}};
     for (const auto& [image, column, row] : places) {
         EXPECT_EQ(box.grid.get_child_at(column, row), image);
         EXPECT_TRUE(image->get_style_context()->has_class("windowIcon"));

@@ -9,6 +9,7 @@
 #include <gtkmm.h>
 
 #include <memory>
+#include <stdexcept>
 
 namespace {
 
@@ -52,6 +53,10 @@ protected:
 
     /// Presses on the content of the panel and moves a little, so that a drag begins.
     void take(PanelView* panel) {
+        if (auto* const notebook = dynamic_cast<Gtk::Notebook*>(panel->get_parent())) {
+            notebook->set_current_page(notebook->page_num(*panel));
+            test::settle();
+        }
         const int x = panel->get_allocated_width() / 2;
         const int y = panel->get_allocated_height() - 20;
         test::movePointer(*panel, x, y);
@@ -60,7 +65,10 @@ protected:
             test::movePointer(*panel, x + 8 * i, y - 4 * i);
             test::wait(20);
         }
-        EXPECT_TRUE(test::waitFor([panel] { return panel->isDragSource; }));
+        if (!test::waitFor([panel] { return panel->isDragSource; })) {
+            test::releaseButton();
+            throw std::runtime_error("no drag began");
+        }
     }
 
     /// Moves what was taken to a place of the panel.
@@ -176,8 +184,6 @@ TEST_F(PanelDrag, ToEachSideOfAPanelInTabs) {
 TEST_F(PanelDrag, OfATabOntoASide) {
     PanelView* const c = add("C", Positions::Center);
     EXPECT_EQ(layout(), "H(A, [B C])");
-    dynamic_cast<Gtk::Notebook*>(c->get_parent())->set_current_page(1);
-    test::settle();
     drag(c, a, Positions::Bottom);
     EXPECT_EQ(layout(), "H(V(A, C), B)");
 }

@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 #include <gtkmm.h>
 
+#include <algorithm>
 #include <memory>
 #include <random>
+#include <set>
 
 namespace {
 
@@ -15,8 +17,8 @@ using namespace Zel;
 
 class LabelAsView : public Gtk::Label, public IView {};
 
-/// Makes one random operation after the other and expects, after each, that the tree is sound and that exactly
-/// those panels are to be seen that should be.
+/// Makes one random operation after the other and expects, after each, that the tree is sound and that
+/// exactly those panels are to be seen that should be.
 class Model {
 public:
     explicit Model(unsigned int seed) : random(seed) {}
@@ -42,7 +44,7 @@ public:
     /// What is wrong now; empty if nothing.
     std::vector<std::string> faults() {
         std::vector<std::string> found = test::findFaults(*manager);
-        if (test::visiblePanels(*manager) != seen)
+        if (test::visiblePanels(*manager) != std::set<PanelView*>(seen.begin(), seen.end()))
             found.push_back("panels were lost or came back in " + test::layoutOf(*manager));
         return found;
     }
@@ -54,7 +56,9 @@ private:
 
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); }
 
-    PanelView* any() { return *std::next(seen.begin(), below(static_cast<int>(seen.size()))); }
+    PanelView* any() { return seen[static_cast<std::size_t>(below(static_cast<int>(seen.size())))]; }
+
+    void forget(PanelView* panel) { seen.erase(std::find(seen.begin(), seen.end(), panel)); }
 
     Positions anyPosition() { return static_cast<Positions>(below(6)); }
 
@@ -70,7 +74,7 @@ private:
         auto* const panel =
             dynamic_cast<PanelView*>(manager->newPanel(title, position, *children.back(), sibling));
         panel->setProperties(true, true);
-        seen.insert(panel);
+        seen.push_back(panel);
     }
 
     void drop() {
@@ -91,12 +95,13 @@ private:
     void closeWindow() {
         if (manager->windows.empty())
             return;
-        auto& window = *manager->windows[static_cast<std::size_t>(below(static_cast<int>(manager->windows.size())))];
+        auto& window =
+            *manager->windows[static_cast<std::size_t>(below(static_cast<int>(manager->windows.size())))];
         auto* const panel = dynamic_cast<PanelView*>(window.get_child());
         if (!panel)
             return;
         note("close the window of " + panel->getTitle());
-        seen.erase(panel);
+        forget(panel);
         GdkEventAny event{};
         event.type = GDK_DELETE;
         window._onClose(&event);
@@ -107,7 +112,7 @@ private:
         if (dynamic_cast<WindwView*>(panel->get_parent()))
             return;
         note("close " + panel->getTitle());
-        seen.erase(panel);
+        forget(panel);
         panel->btnClose.clicked();
     }
 
@@ -122,7 +127,7 @@ private:
     std::mt19937 random;
     std::vector<std::unique_ptr<LabelAsView>> children;
     std::unique_ptr<PanelManagerView> manager = std::make_unique<PanelManagerView>();
-    std::set<PanelView*> seen;
+    std::vector<PanelView*> seen; ///< in the order in which they were made, so that a seed is reproducible
     int number = 0;
 };
 

@@ -107,11 +107,16 @@ TEST_F(PanelManagerTest, TheFirstPanelTakesThePaneOfItsSide) {
 
 TEST_F(PanelManagerTest, TheSecondPanelTakesItsSideAndTheFirstGivesWay) {
     const std::tuple<Positions, Positions, std::string> cases[] = {
-        {Positions::Center, Positions::Left, "H(B, A)"},   {Positions::Center, Positions::Right, "H(A, B)"},
-        {Positions::Center, Positions::Top, "V(B, A)"},    {Positions::Center, Positions::Bottom, "V(A, B)"},
-        {Positions::Center, Positions::Default, "H(B, A)"}, {Positions::Right, Positions::Left, "H(B, A)"},
-        {Positions::Right, Positions::Right, "H(A, B)"},   {Positions::Bottom, Positions::Top, "V(B, A)"},
-        {Positions::Left, Positions::Center, "H([A B], -)"}, {Positions::Right, Positions::Center, "H(-, [A B])"}};
+        {Positions::Center, Positions::Left, "H(B, A)"},
+        {Positions::Center, Positions::Right, "H(A, B)"},
+        {Positions::Center, Positions::Top, "V(B, A)"},
+        {Positions::Center, Positions::Bottom, "V(A, B)"},
+        {Positions::Center, Positions::Default, "H(B, A)"},
+        {Positions::Right, Positions::Left, "H(B, A)"},
+        {Positions::Right, Positions::Right, "H(A, B)"},
+        {Positions::Bottom, Positions::Top, "V(B, A)"},
+        {Positions::Left, Positions::Center, "H([A B], -)"},
+        {Positions::Right, Positions::Center, "H(-, [A B])"}};
     for (const auto& [first, second, expected] : cases) {
         manager = std::make_unique<PanelManagerView>();
         add("A", first);
@@ -131,9 +136,9 @@ TEST_F(PanelManagerTest, PanesNeitherGrowByThemselvesNorShrinkBelowTheirChild) {
 
 TEST_F(PanelManagerTest, WithTheRootFullANewPanelDocksBesideTheNewest) {
     const std::pair<Positions, std::string> cases[] = {
-        {Positions::Left, "H(A, H(C, B))"},   {Positions::Right, "H(A, H(B, C))"},
-        {Positions::Top, "H(A, V(C, B))"},    {Positions::Bottom, "H(A, V(B, C))"},
-        {Positions::Center, "H(A, [B C])"},   {Positions::Default, "H(A, H(C, B))"}};
+        {Positions::Left, "H(A, H(C, B))"}, {Positions::Right, "H(A, H(B, C))"},
+        {Positions::Top, "H(A, V(C, B))"},  {Positions::Bottom, "H(A, V(B, C))"},
+        {Positions::Center, "H(A, [B C])"}, {Positions::Default, "H(A, H(C, B))"}};
     for (const auto& [position, expected] : cases) {
         manager = std::make_unique<PanelManagerView>();
         add("A", Positions::Left);
@@ -180,11 +185,11 @@ TEST_F(PanelManagerTest, ANewPanelIsPlacedEvenIfTheNewestOneHasNoPlace) {
 
 TEST_F(PanelManagerTest, OfTwoPanelsTheSecondDroppedOnTheSideOfTheFirstChangesPlacesOrOnlyTheDirection) {
     const std::tuple<bool, Positions, std::string> cases[] = {
-        {true, Positions::Left, "H(B, A)"},    {true, Positions::Default, "H(B, A)"},
-        {true, Positions::Right, "H(A, B)"},   {true, Positions::Top, "V(B, A)"},
-        {true, Positions::Bottom, "V(A, B)"},  {false, Positions::Left, "H(A, B)"},
-        {false, Positions::Right, "H(B, A)"},  {false, Positions::Top, "V(A, B)"},
-        {false, Positions::Bottom, "V(B, A)"}, {true, Positions::Center, "H([A B], -)"},
+        {true, Positions::Left, "H(B, A)"},       {true, Positions::Default, "H(B, A)"},
+        {true, Positions::Right, "H(A, B)"},      {true, Positions::Top, "V(B, A)"},
+        {true, Positions::Bottom, "V(A, B)"},     {false, Positions::Left, "H(A, B)"},
+        {false, Positions::Right, "H(B, A)"},     {false, Positions::Top, "V(A, B)"},
+        {false, Positions::Bottom, "V(B, A)"},    {true, Positions::Center, "H([A B], -)"},
         {false, Positions::Center, "H([A B], -)"}};
     for (const auto& [isSecondDragged, position, expected] : cases) {
         manager = std::make_unique<PanelManagerView>();
@@ -322,14 +327,23 @@ TEST_F(PanelManagerTest, AClosedTabIsDeletedAndAClosedPanelIsKeptAside) {
 TEST_F(PanelManagerTest, NullAndAStrangerAreNotDeleted) {
     class Stranger : public IPanelView {
         void setTitle(const std::string&) override {}
+
         std::string getTitle() override { return ""; }
+
         void removeTitle() override {}
+
         void setChild(IView&) override {}
+
         IView* getChild() override { return nullptr; }
+
         void removeChild(IView*) override {}
+
         IView* getTitleBar() override { return nullptr; }
+
         void setTitleBar() override {}
+
         void setProperties(bool, bool) override {}
+
         void setSize(int, int) override {}
     };
 
@@ -406,8 +420,10 @@ TEST_F(PanelManagerTest, TabsDeeperInTheTreeSurviveTheEndOfTheContainerThatMadeT
 
 TEST_F(PanelManagerTest, ATitleBarThatIsNoWidgetThrows) {
     class PlainView : public IView {};
+
     class PanelWithoutTitle : public PanelView {
         IView* getTitleBar() override { return &plain; }
+
         PlainView plain;
     };
 

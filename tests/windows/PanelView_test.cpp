@@ -15,6 +15,7 @@ namespace {
 using namespace Zel;
 
 class LabelAsView : public Gtk::Label, public IView {};
+
 class PlainView : public IView {};
 
 class ContributingView : public Gtk::Label, public IView, public IWidget {
@@ -219,8 +220,7 @@ TEST(PanelView, HandsItsTitleToATabAndTakesItBackFromAnywhere) {
 TEST(PanelView, HasNoButtonsUntilItIsGivenThem) {
     PanelView both;
     both.setProperties(true, true);
-    EXPECT_EQ(childrenOf(both.headerButtons),
-              (std::vector<Gtk::Widget*>{&both.btnToWindow, &both.btnClose}));
+    EXPECT_EQ(childrenOf(both.headerButtons), (std::vector<Gtk::Widget*>{&both.btnToWindow, &both.btnClose}));
     both.setProperties(false, false);
     EXPECT_TRUE(childrenOf(both.headerButtons).empty());
     both.setProperties(false, true);
@@ -264,17 +264,37 @@ TEST(PanelView, TheDropZonesAreACrossOf40Pixels) {
     ASSERT_EQ(panel.get_allocated_width(), 300);
     ASSERT_EQ(panel.get_allocated_height(), 134);
     const std::tuple<int, int, Positions> cases[] = {
-        {150, 67, Positions::Center},   {150, 10, Positions::Top},      {150, 130, Positions::Bottom},
-        {10, 67, Positions::Left},      {290, 67, Positions::Right},    {10, 10, Positions::Default},
-        {290, 10, Positions::Default},  {10, 130, Positions::Default},  {290, 130, Positions::Default},
+        {150, 67, Positions::Center},
+        {150, 10, Positions::Top},
+        {150, 130, Positions::Bottom},
+        {10, 67, Positions::Left},
+        {290, 67, Positions::Right},
+        {10, 10, Positions::Default},
+        {290, 10, Positions::Default},
+        {10, 130, Positions::Default},
+        {290, 130, Positions::Default},
         // The limits themselves belong to no zone, their neighbours do.
-        {130, 67, Positions::Default},  {131, 67, Positions::Center},   {129, 67, Positions::Left},
-        {170, 67, Positions::Default},  {169, 67, Positions::Center},   {171, 67, Positions::Right},
-        {150, 47, Positions::Default},  {150, 48, Positions::Center},   {150, 46, Positions::Top},
-        {150, 87, Positions::Default},  {150, 86, Positions::Center},   {150, 88, Positions::Bottom},
-        {131, 46, Positions::Top},      {130, 46, Positions::Default},  {170, 46, Positions::Default},
-        {129, 47, Positions::Default},  {129, 48, Positions::Left},     {129, 87, Positions::Default},
-        {171, 86, Positions::Right},    {171, 87, Positions::Default},  {-1, 67, Positions::Left},
+        {130, 67, Positions::Default},
+        {131, 67, Positions::Center},
+        {129, 67, Positions::Left},
+        {170, 67, Positions::Default},
+        {169, 67, Positions::Center},
+        {171, 67, Positions::Right},
+        {150, 47, Positions::Default},
+        {150, 48, Positions::Center},
+        {150, 46, Positions::Top},
+        {150, 87, Positions::Default},
+        {150, 86, Positions::Center},
+        {150, 88, Positions::Bottom},
+        {131, 46, Positions::Top},
+        {130, 46, Positions::Default},
+        {170, 46, Positions::Default},
+        {129, 47, Positions::Default},
+        {129, 48, Positions::Left},
+        {129, 87, Positions::Default},
+        {171, 86, Positions::Right},
+        {171, 87, Positions::Default},
+        {-1, 67, Positions::Left},
     };
     for (const auto& [x, y, expected] : cases)
         EXPECT_EQ(panel._getPosition(x, y), expected) << x << ", " << y;

@@ -16,15 +16,15 @@ namespace {
 using namespace Zel;
 
 class LabelAsView : public Gtk::Label, public IView {};
+
 class PlainView : public IView {};
 
 class WindowViewTest : public testing::Test {
 protected:
     WindowViewTest() {
         view->signalOpened.connect([this] { events.push_back("opened"); });
-        view->signalClosed.connect([this] {
-            events.push_back(view && view->getWindowObject() ? "closed, still there" : "closed");
-        });
+        view->signalClosed.connect(
+            [this] { events.push_back(view && view->getWindowObject() ? "closed, still there" : "closed"); });
     }
 
     bool waitForEnd() {
