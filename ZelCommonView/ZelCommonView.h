@@ -34,9 +34,14 @@
 #include <ZelCommonView/diagrams/StyleZoomHelper.h>
 #include <ZelCommonView/diagrams/ZDiagram.h>
 #include <ZelCommonView/diagrams/ZoomableScrolledWindow.h>
+#include <ZelCommonView/dialogs/AboutView.h>
+#include <ZelCommonView/dialogs/AboutWindowActivatorPresenter.h>
+#include <ZelCommonView/dialogs/AboutWords.h>
 #include <ZelCommonView/dialogs/DialogPresenter.h>
 #include <ZelCommonView/dialogs/FileDialogHelper.h>
 #include <ZelCommonView/dialogs/FileDialogPresenter.h>
+#include <ZelCommonView/dialogs/HelpView.h>
+#include <ZelCommonView/dialogs/ShellDescriptor.h>
 #include <ZelCommonView/dialogs/WaitingDialog.h>
 #include <ZelCommonView/dialogs/WaitingDialogPresenter.h>
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>

@@ -6,18 +6,21 @@
 namespace Zel {
 
 void PanelManagerView::_setPanel(PanelView* panel, Positions position, PanelView* sibling) {
-    if (!mainContainer->hasEmptyChild()) {
-        _setSiblingPanel(_findPlaced(sibling, panel), panel, position);
-        return;
-    }
-    if (position != Positions::Center) {
-        _setPanelToContainer(mainContainer, panel, position, nullptr);
-        return;
-    }
-    if (PanelView* const newest = _findPlaced(nullptr, panel))
-        _setSiblingPanel(newest, panel, Positions::Center);
+    const bool isRootFull = !mainContainer->hasEmptyChild();
+    PanelView* const neighbour = _findPlaced(isRootFull ? sibling : nullptr, panel);
+    if (neighbour && (isRootFull || position == Positions::Center))
+        _setSiblingPanel(neighbour, panel, position);
     else
-        _setPanelToContainer(mainContainer, panel, Positions::Left, nullptr);
+        _setPanelToContainer(_findHole(), panel, position == Positions::Center ? Positions::Left : position,
+                             nullptr);
+}
+
+PanelContainerView* PanelManagerView::_findHole() {
+    PanelContainerView* container = mainContainer;
+    // Without a panel in the tree there are only containers, the innermost of them empty.
+    while (!container->hasEmptyChild())
+        container = dynamic_cast<PanelContainerView*>(container->get_child1());
+    return container;
 }
 
 PanelView* PanelManagerView::_findPlaced(PanelView* preferred, const PanelView* panel) {

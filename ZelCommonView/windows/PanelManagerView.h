@@ -64,6 +64,7 @@ private:
 
     // Placing, see PanelLayout.cpp.
     void _setPanel(PanelView* panel, Positions position, PanelView* sibling);
+    PanelContainerView* _findHole();
     PanelView* _findPlaced(PanelView* preferred, const PanelView* panel);
     bool _setPanelToContainer(PanelContainerView* container, PanelView* a, Positions position, PanelView* b);
     bool _setLeft(PanelContainerView* container, PanelView* a, PanelView* b);

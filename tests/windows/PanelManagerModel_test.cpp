@@ -29,11 +29,11 @@ public:
         const int kind = below(100);
         if (seen.empty() || (kind < 25 && seen.size() < largest))
             add();
-        else if (kind < 65)
+        else if (kind < 84)
             drop();
-        else if (kind < 78)
-            toWindow();
         else if (kind < 88)
+            toWindow();
+        else if (kind < 91)
             closeWindow();
         else if (kind < 99)
             closePanel();
@@ -143,6 +143,10 @@ TEST_P(PanelManagerModel, NoOperationEverLosesAPanelOrBreaksTheTree) {
     Model model(GetParam());
     for (int i = 0; i < operations; ++i) {
         model.step();
+        // What is queued runs now and then, as in a program.
+        if (i % 20 == 0)
+            while (Gtk::Main::events_pending())
+                Gtk::Main::iteration();
         const std::vector<std::string> faults = model.faults();
         ASSERT_TRUE(faults.empty()) << "after " << i + 1 << " operations: " << testing::PrintToString(faults)
                                     << "\nThe last ones: "

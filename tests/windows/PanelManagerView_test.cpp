@@ -183,6 +183,22 @@ TEST_F(PanelManagerTest, ANewPanelIsPlacedEvenIfTheNewestOneHasNoPlace) {
     EXPECT_EQ(layout(), "H(-, V(D, [E F]))");
 }
 
+TEST_F(PanelManagerTest, ANewPanelIsPlacedEvenIfAllOthersFloat) {
+    PanelView* const a = add("A", Positions::Left);
+    PanelView* const b = add("B", Positions::Right);
+    PanelView* const c = add("C", Positions::Bottom, a);
+    drop(b, c, Positions::Right);
+    EXPECT_EQ(layout(), "H(V(A, H(C, B)), -)");
+    add("D", Positions::Right);
+    for (PanelView* const panel : {a, b, c})
+        toWindow(panel);
+    toWindow(manager->panels.back().get());
+    add("E", Positions::Center);
+    add("F", Positions::Bottom, a);
+    EXPECT_EQ(test::visiblePanels(*manager).size(), 6u);
+    EXPECT_EQ(manager->panels.back()->get_parent() != nullptr, true);
+}
+
 TEST_F(PanelManagerTest, OfTwoPanelsTheSecondDroppedOnTheSideOfTheFirstChangesPlacesOrOnlyTheDirection) {
     const std::tuple<bool, Positions, std::string> cases[] = {
         {true, Positions::Left, "H(B, A)"},       {true, Positions::Default, "H(B, A)"},
