@@ -17,3 +17,5 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ZelCommonViewConfig.cmake
 
 configure_file(${CMAKE_CURRENT_LIST_DIR}/ZelCommonView.pc.in ZelCommonView.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ZelCommonView.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/themes/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ZelCommonView/Themes)

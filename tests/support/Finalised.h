@@ -1,4 +1,5 @@
-/// Whether Gtk objects really end: the leak checker can't tell, since Gtk's own tables still reach a leaked widget.
+/// Whether Gtk objects really end: the leak checker can't tell, since Gtk's own tables still reach a leaked
+/// widget.
 #pragma once
 
 #include <glib-object.h>
@@ -13,7 +14,8 @@ public:
     void watch(T& object) {
         ++watched;
         g_object_weak_ref(
-            G_OBJECT(object.gobj()), [](gpointer self, GObject*) { ++static_cast<Finalised*>(self)->count; }, this);
+            G_OBJECT(object.gobj()), [](gpointer self, GObject*) { ++static_cast<Finalised*>(self)->count; },
+            this);
     }
 
     bool all() const { return count == watched; }
