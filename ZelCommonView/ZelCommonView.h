@@ -7,6 +7,7 @@
 #include <ZelCommonView/common/Cross.h>
 #include <ZelCommonView/common/DialogLocalization.h>
 #include <ZelCommonView/common/Directories.h>
+#include <ZelCommonView/common/EmitKept.h>
 #include <ZelCommonView/common/ErrBuf.h>
 #include <ZelCommonView/common/Export.h>
 #include <ZelCommonView/common/Language.h>

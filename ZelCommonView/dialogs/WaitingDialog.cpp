@@ -1,6 +1,7 @@
 #include <ZelCommonView/dialogs/WaitingDialog.h>
 
 #include <ZelCommonView/common/DialogLocalization.h>
+#include <ZelCommonView/common/EmitKept.h>
 #include <ZelCommonView/presentation/GtkWidgetHelper.h>
 
 namespace Zel {
@@ -61,10 +62,8 @@ void WaitingDialog::_compose() {
 void WaitingDialog::_onCancelButtonClicked() {
     cancelButton.set_label(DialogLocalization::cancelled());
     cancelButton.set_sensitive(false);
-    // Last, and by another name: what hears it may destroy the dialog, and a signal that dies while it is
-    // emitted would leak.
-    const sigc::signal<void> signal = signalCancel;
-    signal.emit();
+    // Last: what hears it may destroy the dialog.
+    emitKept(signalCancel);
 }
 
 } // namespace Zel

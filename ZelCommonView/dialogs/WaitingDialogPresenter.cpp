@@ -1,5 +1,6 @@
 #include <ZelCommonView/dialogs/WaitingDialogPresenter.h>
 
+#include <ZelCommonView/common/EmitKept.h>
 #include <ZelCommonView/dialogs/WaitingDialog.h>
 
 namespace Zel {
@@ -47,10 +48,8 @@ void WaitingDialogPresenter::close() {
         return;
     dialog->response(Gtk::RESPONSE_OK);
     dialog.reset();
-    // Last, and by another name: what hears it may destroy the presenter, and a signal that dies while it is
-    // emitted would leak.
-    const sigc::signal<void> signal = signalClosedDialog;
-    signal.emit();
+    // Last: what hears it may destroy the presenter.
+    emitKept(signalClosedDialog);
 }
 
 void WaitingDialogPresenter::setMessage(const std::string& message) {

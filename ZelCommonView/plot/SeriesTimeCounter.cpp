@@ -1,6 +1,7 @@
 #include <ZelCommonView/plot/SeriesTimeCounter.h>
 
-#include <ZelCommonView/plot/LifeWatch.h>
+#include <ZelCommonView/common/EmitKept.h>
+#include <ZelCommonView/common/LifeWatch.h>
 #include <ZelCommonView/plot/Milliseconds.h>
 
 namespace ZelView {
@@ -13,7 +14,7 @@ SeriesTimeCounter::~SeriesTimeCounter() = default;
 
 void SeriesTimeCounter::setIsPaused(bool value) {
     paused = value;
-    emitKept(pausedChanged, paused); // also when nothing changed, which is meant
+    Zel::emitKept(pausedChanged, paused); // also when nothing changed, which is meant
 }
 
 void SeriesTimeCounter::setSpeed(float value) {
@@ -22,10 +23,10 @@ void SeriesTimeCounter::setSpeed(float value) {
 
 void SeriesTimeCounter::setMax(unsigned long value) {
     max = value;
-    const LifeWatch life(*this);
+    const Zel::LifeWatch life(*this);
     _setCurrTime(currentTime);
     if (life)
-        emitKept(maxChanged, max);
+        Zel::emitKept(maxChanged, max);
 }
 
 void SeriesTimeCounter::setTime(unsigned long value) {
@@ -49,8 +50,8 @@ void SeriesTimeCounter::_setCurrTime(std::uint64_t time) {
     currentTime = time > max ? 0 : time;
     if (currentTime == lastEmittedTime)
         return;
-    const LifeWatch life(*this);
-    emitKept(timeChanged, currentTime);
+    const Zel::LifeWatch life(*this);
+    Zel::emitKept(timeChanged, currentTime);
     if (life)
         lastEmittedTime = currentTime;
 }

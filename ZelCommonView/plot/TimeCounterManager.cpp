@@ -1,6 +1,7 @@
 #include <ZelCommonView/plot/TimeCounterManager.h>
 
-#include <ZelCommonView/plot/LifeWatch.h>
+#include <ZelCommonView/common/EmitKept.h>
+#include <ZelCommonView/common/LifeWatch.h>
 #include <ZelCommonView/plot/SyncedTimeCounter.h>
 
 #include <atomic>
@@ -39,8 +40,8 @@ void TimeCounterManager::_onSynced(unsigned long milliseconds) {
     if (gathered < period)
         return;
     // What goes beyond the period is passed on with the rest, so nothing is carried over.
-    const LifeWatch life(*this);
-    emitKept(tick, gathered);
+    const Zel::LifeWatch life(*this);
+    Zel::emitKept(tick, gathered);
     if (life)
         gathered = 0;
 }

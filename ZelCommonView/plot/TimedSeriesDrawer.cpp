@@ -1,6 +1,6 @@
 #include <ZelCommonView/plot/TimedSeriesDrawer.h>
 
-#include <ZelCommonView/plot/LifeWatch.h>
+#include <ZelCommonView/common/LifeWatch.h>
 
 #include <algorithm>
 #include <utility>
@@ -21,7 +21,7 @@ void TimedSeriesDrawer::addSeries(std::unique_ptr<Zel::TimedSeries> series) {
     for (const Zel::TimedPointF& point : series->points)
         duration = std::max(duration, point.time);
     if (duration > maxDuration) {
-        const LifeWatch life(*this);
+        const Zel::LifeWatch life(*this);
         _updateMaxDuration(duration);
         if (!life)
             return;

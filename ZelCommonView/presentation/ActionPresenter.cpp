@@ -1,5 +1,7 @@
 #include <ZelCommonView/presentation/ActionPresenter.h>
 
+#include <ZelCommonView/common/EmitKept.h>
+
 namespace Zel {
 
 IActionView::~IActionView() = default;
@@ -10,11 +12,15 @@ BaseActionView::BaseActionView(const std::string& styleClass) {
     get_style_context()->add_class(styleClass);
     set_valign(Gtk::ALIGN_CENTER);
     get_style_context()->add_class("recordValueMargin");
-    signal_clicked().connect(signalClicked.make_slot());
+    signal_clicked().connect(sigc::mem_fun(*this, &BaseActionView::_onClicked));
     show_all();
 }
 
 BaseActionView::~BaseActionView() = default;
+
+void BaseActionView::_onClicked() {
+    emitKept(signalClicked);
+}
 
 AddActionView::AddActionView() : BaseActionView("ToolAddButtonTransparent") {}
 
@@ -27,7 +33,7 @@ void BaseActionPresenter::_onViewInited() {
 }
 
 void BaseActionPresenter::_onClicked() {
-    signalClicked.emit();
+    emitKept(signalClicked);
 }
 
 std::unique_ptr<IActionView> AddActionPresenter::_createDefaultView() {

@@ -26,6 +26,9 @@ public:
     /// `styleClass` is added to those that every action has.
     explicit BaseActionView(const std::string& styleClass);
     ~BaseActionView() override;
+
+private:
+    void _onClicked();
 };
 
 /// The button that adds, of the style class "ToolAddButtonTransparent".

@@ -1,5 +1,7 @@
 #include <ZelCommonView/presentation/ButtonPresenter.h>
 
+#include <ZelCommonView/common/EmitKept.h>
+
 namespace Zel {
 
 IButtonView::~IButtonView() = default;
@@ -20,7 +22,7 @@ void ButtonView::setStyle(const std::string& styleClass) {
 }
 
 void ButtonView::_onClicked() {
-    signalClicked.emit();
+    emitKept(signalClicked);
 }
 
 ButtonPresenter::ButtonPresenter() : view(std::make_unique<ButtonView>()) {
@@ -34,7 +36,7 @@ IButtonView* ButtonPresenter::getView() {
 }
 
 void ButtonPresenter::_onClicked() {
-    signalClicked.emit();
+    emitKept(signalClicked);
 }
 
 } // namespace Zel

@@ -1,5 +1,7 @@
 #include <ZelCommonView/windows/ConfirmWindowPresenter.h>
 
+#include <ZelCommonView/common/EmitKept.h>
+
 namespace Zel {
 
 ConfirmWindowPresenter::~ConfirmWindowPresenter() = default;
@@ -29,7 +31,7 @@ void ConfirmWindowPresenter::_onViewInited() {
 }
 
 bool ConfirmWindowPresenter::_onViewApply() {
-    return signalApply.empty() || signalApply.emit();
+    return signalApply.empty() || emitKept(signalApply);
 }
 
 } // namespace Zel

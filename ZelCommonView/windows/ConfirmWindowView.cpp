@@ -1,6 +1,8 @@
 #include <ZelCommonView/windows/ConfirmWindowView.h>
 
 #include <ZelCommonView/common/DialogLocalization.h>
+#include <ZelCommonView/common/EmitKept.h>
+#include <ZelCommonView/common/LifeWatch.h>
 #include <ZelCommonView/presentation/GtkWidgetHelper.h>
 
 namespace Zel {
@@ -87,7 +89,8 @@ bool ConfirmWindowView::_onDeleteEvent(GdkEventAny*) {
 void ConfirmWindowView::_onApplyButtonClicked() {
     if (signalApply.empty())
         return;
-    if (signalApply.emit())
+    const LifeWatch life(*this);
+    if (emitKept(signalApply) && life)
         _onEditFinished(true);
 }
 

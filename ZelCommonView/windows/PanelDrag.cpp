@@ -1,6 +1,8 @@
 // The panel as source and target of a drag.
 #include <ZelCommonView/windows/PanelView.h>
 
+#include <ZelCommonView/common/EmitKept.h>
+
 #include <gtkmm/targetentry.h>
 
 #include <array>
@@ -109,7 +111,7 @@ void PanelView::_on_drop_drag_data_received(const Glib::RefPtr<Gdk::DragContext>
         const Positions position = _getPosition(x, y);
         if (position == Positions::Default)
             return;
-        signalDrop.emit(this, reinterpret_cast<PanelView*>(address), position);
+        emitKept(signalDrop, this, reinterpret_cast<PanelView*>(address), position);
     }
     context->drag_finish(false, false, time);
 }

@@ -1,5 +1,6 @@
 #include <ZelCommonView/windows/PanelView.h>
 
+#include <ZelCommonView/common/EmitKept.h>
 #include <ZelCommonView/presentation/GtkWidgetHelper.h>
 #include <ZelCommonView/windows/WindwView.h>
 
@@ -208,11 +209,11 @@ bool PanelView::_onDraw(const Cairo::RefPtr<Cairo::Context>&) {
 
 void PanelView::_onBtnClose() {
     // A listener may delete this panel.
-    signalDelete.emit(this);
+    emitKept(signalDelete, this);
 }
 
 void PanelView::_onBtnToWindow() {
-    signalToWindow.emit(this);
+    emitKept(signalToWindow, this);
 }
 
 } // namespace Zel

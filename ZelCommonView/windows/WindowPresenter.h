@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ZelCommonView/common/EmitKept.h>
 #include <ZelCommonView/common/Export.h>
 #include <ZelCommonView/presentation/ViewPresenter.h>
 #include <ZelCommonView/windows/WindowView.h>
@@ -27,9 +28,9 @@ protected:
         made->signalClosed.connect(sigc::mem_fun(*this, &WindowBasePresenter::_onViewClosed));
     }
 
-    void _onViewOpened() { signalOpened.emit(); }
+    void _onViewOpened() { emitKept(signalOpened); }
 
-    void _onViewClosed() { signalClosed.emit(); }
+    void _onViewClosed() { emitKept(signalClosed); }
 };
 
 /// The layer from which the presenters of windows derive.

@@ -1,5 +1,6 @@
 #include <ZelCommonView/windows/WindowView.h>
 
+#include <ZelCommonView/common/EmitKept.h>
 #include <ZelCommonView/presentation/GtkWidgetHelper.h>
 
 namespace Zel {
@@ -83,7 +84,7 @@ void WindowView::_setActiveWindowContent(Gtk::Widget* widget) {
 }
 
 void WindowView::_onSignalShow() {
-    signalOpened.emit();
+    emitKept(signalOpened);
 }
 
 bool WindowView::_onSignalDeleteEvent(GdkEventAny*) {
@@ -98,7 +99,7 @@ bool WindowView::_onSignalDeleteEvent(GdkEventAny*) {
 }
 
 void WindowView::_onSignalClosed() {
-    signalClosed.emit();
+    emitKept(signalClosed);
 }
 
 } // namespace Zel

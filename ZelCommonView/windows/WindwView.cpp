@@ -1,5 +1,6 @@
 #include <ZelCommonView/windows/WindwView.h>
 
+#include <ZelCommonView/common/EmitKept.h>
 #include <ZelCommonView/windows/PanelView.h>
 
 namespace Zel {
@@ -19,7 +20,7 @@ void WindwView::_onClose(GdkEventAny* event) {
     if (event->type != GDK_DELETE)
         return;
     if (auto* const panel = dynamic_cast<PanelView*>(get_child()))
-        signalClose.emit(panel);
+        emitKept(signalClose, panel);
 }
 
 } // namespace Zel

@@ -104,6 +104,20 @@ TEST_F(ConfirmWindowTest, AListenerMayVetoOk) {
     EXPECT_TRUE(presenter->isConfirmed());
 }
 
+TEST_F(ConfirmWindowTest, AListenerOfOkMayDeleteIt) {
+    presenter->signalApply.connect([this] {
+        presenter.reset();
+        return true;
+    });
+    show();
+    test::Finalised finalised;
+    finalised.watch(*view().window);
+    test::click(view().okButton);
+    EXPECT_TRUE(test::waitFor([this] { return !presenter; }));
+    test::settle();
+    EXPECT_TRUE(finalised.all());
+}
+
 TEST_F(ConfirmWindowTest, OfTwoListenersBothRunAndTheLastDecides) {
     for (const bool last : {true, false}) {
         presenter = std::make_unique<ConfirmWindowPresenter>();

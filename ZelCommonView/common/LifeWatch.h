@@ -3,7 +3,7 @@
 
 #include <sigc++/trackable.h>
 
-namespace ZelView {
+namespace Zel {
 
 /// Tells an operation that emits a signal in its middle whether a listener has destroyed the emitting object.
 class LifeWatch {
@@ -33,12 +33,4 @@ private:
     bool alive = true;
 };
 
-/// Emits a signal that a listener may destroy with its owner. A signal that goes in the middle of its
-/// emission loses memory for each listener, unless a copy, which shares them, outlives the emission.
-template <typename TSignal, typename TValue>
-void emitKept(const TSignal& signal, TValue value) {
-    const TSignal kept = signal;
-    kept.emit(value);
-}
-
-} // namespace ZelView
+} // namespace Zel
