@@ -18,13 +18,15 @@ set(ZEL_TEST_ENVIRONMENT
 add_custom_target(zel-thread-tests)
 
 # zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN] [HANDS]
-#              [OWN_DISPLAY] [LOCALES names...])
+#              [OWN_DISPLAY] [LONG] [LOCALES names...])
 # makes the program folder.file. PLAIN is for tests that need neither GTK nor a display; HANDS for those that move the
 # real pointer or press real keys, which must not run beside each other. OWN_DISPLAY is for those that show windows all
 # the time without hands: they would get under the pointer of the others. LOCALES, such as de_DE.UTF-8, runs the program
-# once more in each of these locales, as the test folder.file@locale; not for PLAIN ones.
+# once more in each of these locales, as the test folder.file@locale; not for PLAIN ones. LONG is for those of millions
+# of operations: the address sanitizer notes where memory was taken the quick way there, eight times as fast and less
+# exact.
 function(zel_add_test folder file)
-  cmake_parse_arguments(TEST "PLAIN;HANDS;OWN_DISPLAY" "" "SOURCES;LIBRARIES;LABELS;LOCALES" ${ARGN})
+  cmake_parse_arguments(TEST "PLAIN;HANDS;OWN_DISPLAY;LONG" "" "SOURCES;LIBRARIES;LABELS;LOCALES" ${ARGN})
   get_filename_component(stem ${file} NAME_WE)
   string(REGEX REPLACE "_test$" "" stem ${stem})
   set(target ${folder}.${stem})
@@ -53,6 +55,9 @@ function(zel_add_test folder file)
   foreach(locale "" ${TEST_LOCALES})
     set(name ${target})
     set(environment ${ZEL_TEST_ENVIRONMENT})
+    if(TEST_LONG)
+      string(REPLACE "fast_unwind_on_malloc=0" "fast_unwind_on_malloc=1" environment "${environment}")
+    endif()
     if(locale)
       string(APPEND name "@${locale}")
       list(APPEND environment ZEL_TEST_LOCALE=${locale})
