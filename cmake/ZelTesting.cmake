@@ -17,11 +17,13 @@ set(ZEL_TEST_ENVIRONMENT
 # All tests in which two threads meet: what the thread sanitizer is for.
 add_custom_target(zel-thread-tests)
 
-# zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN] [HANDS])
+# zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN] [HANDS]
+#              [OWN_DISPLAY])
 # makes the program folder.file. PLAIN is for tests that need neither GTK nor a display; HANDS for those that move the
-# real pointer or press real keys, which must not run beside each other.
+# real pointer or press real keys, which must not run beside each other. OWN_DISPLAY is for those that show windows all
+# the time without hands: they would get under the pointer of the others.
 function(zel_add_test folder file)
-  cmake_parse_arguments(TEST "PLAIN;HANDS" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  cmake_parse_arguments(TEST "PLAIN;HANDS;OWN_DISPLAY" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
   get_filename_component(stem ${file} NAME_WE)
   string(REGEX REPLACE "_test$" "" stem ${stem})
   set(target ${folder}.${stem})
@@ -43,7 +45,11 @@ function(zel_add_test folder file)
   if(ZEL_SANITIZE)
     set(timeout 900)
   endif()
-  add_test(NAME ${target} COMMAND ${target})
+  if(TEST_OWN_DISPLAY)
+    add_test(NAME ${target} COMMAND xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" $<TARGET_FILE:${target}>)
+  else()
+    add_test(NAME ${target} COMMAND ${target})
+  endif()
   set_tests_properties(${target} PROPERTIES ENVIRONMENT "${ZEL_TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}"
                                                   TIMEOUT ${timeout})
   if("threads" IN_LIST TEST_LABELS)

@@ -15,7 +15,9 @@ namespace Zel {
 class ZEL_API Figure : public IBorderable {
 public:
     Figure() = default;
+    /// A copy starts with no listeners.
     Figure(const Figure&) = default;
+    /// Listeners stay as they are.
     Figure& operator=(const Figure&) = default;
     ~Figure() override;
 };

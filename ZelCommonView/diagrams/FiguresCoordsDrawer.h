@@ -37,11 +37,13 @@ public:
     /// Name of the horizontal axis, initially empty, which shows none. Asks for no repaint.
     void setHorizontalHeader(const std::string& header) { horizontalHeader = header; }
 
+    /// The name as it was set.
     const std::string& getHorizontalHeader() const { return horizontalHeader; }
 
     /// Name of the vertical axis, with the same rules.
     void setVerticalHeader(const std::string& header) { verticalHeader = header; }
 
+    /// The name as it was set.
     const std::string& getVerticalHeader() const { return verticalHeader; }
 
     /// Needs `converter` and the viewport. Throws what `CoordsDrawer::draw` throws.

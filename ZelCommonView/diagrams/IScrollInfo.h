@@ -16,6 +16,7 @@ public:
     virtual int getHeightBefore() const = 0;
     /// In view.
     virtual int getWidthCurrent() const = 0;
+    /// In view.
     virtual int getHeightCurrent() const = 0;
     /// Right of the view.
     virtual int getWidthAfter() const = 0;
@@ -23,6 +24,7 @@ public:
     virtual int getHeightAfter() const = 0;
     /// Of the whole content.
     virtual int getWidthTotal() const = 0;
+    /// Of the whole content.
     virtual int getHeightTotal() const = 0;
 };
 

@@ -35,6 +35,7 @@ public:
     /// `Zel::PointsSequence` and `Zel::FixedDot`.
     void setRootFigureDrawer(std::unique_ptr<BaseFigureDrawer> root);
 
+    /// The plot, for an application that sets the axes or adds drawers; stays the diagram's.
     SeriesGroupDrawArea& getDrawArea() { return drawArea; }
 
     /// The grid, to name the axes and to set the distances; stays the diagram's.

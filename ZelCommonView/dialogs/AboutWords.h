@@ -18,6 +18,7 @@ struct AboutContacts {
 
 /// Replaces the contacts; windows that are made later show them.
 ZEL_API void setAboutContacts(const AboutContacts& contacts);
+/// What was set last; all empty at first.
 ZEL_API const AboutContacts& getAboutContacts();
 
 } // namespace Zel

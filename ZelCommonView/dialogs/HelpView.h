@@ -12,6 +12,7 @@ class ZEL_API IHelpView : public IView {
 public:
     ~IHelpView() override;
 
+    /// Shows the help file of that name.
     virtual void show(IView* parent, const std::string& fileName) = 0;
 };
 

@@ -12,7 +12,9 @@ class ZEL_API IZelShellDescriptor {
 public:
     virtual ~IZelShellDescriptor();
 
+    /// The name for people, UTF-8.
     virtual const std::string& name() const = 0;
+    /// The file of the icon; empty for none.
     virtual const std::string& iconPath() const = 0;
     /// Whether the application has hardware built in.
     virtual bool hasEmbededHardware() const = 0;

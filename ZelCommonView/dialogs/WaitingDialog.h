@@ -29,6 +29,7 @@ public:
     /// Shows or hides the button. Also shows the dialog itself.
     void setCancelable(bool value);
 
+    /// Replaces the message.
     void set_message(const Glib::ustring& value);
 
 private:

@@ -43,6 +43,7 @@ public:
     /// Gives what stands right of the plots the width of others, also of those in other sections.
     void setToolbarGroup(SizeGroupAdapter& group);
 
+    /// The group that was set last.
     SizeGroupAdapter& getToolbarGroup() { return toolbarGroup; }
 
     /// All plots in the order of their numbers; they stay the section's.

@@ -26,10 +26,12 @@ public:
 
     /// The visible range; 0 and 0 before the duration is set.
     virtual void getSeriesRange(float& from, float& to) = 0;
+    /// The same, widened.
     virtual void getSeriesRange(double& from, double& to) = 0;
     /// Sets the visible range by the rules of `RangeScrollbar::setRange`: what is shown then is longer than
     /// what was asked for, and the two forms differ. That is meant.
     virtual void setSeriesRange(float from, float to) = 0;
+    /// The other form.
     virtual void setSeriesRange(double from, double to) = 0;
     /// Width of the plots in pixels; 1 before the first allocation.
     virtual int getPixelWidth() = 0;

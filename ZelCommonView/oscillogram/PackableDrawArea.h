@@ -19,6 +19,7 @@ public:
     explicit PackableDrawArea(SeriesGroupDrawArea& drawArea);
     ~PackableDrawArea() override;
 
+    /// The plot that is packed.
     SeriesGroupDrawArea& getDrawArea() const { return drawArea; }
 
     /// Gives the buttons the width of others.

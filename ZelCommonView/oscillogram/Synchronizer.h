@@ -67,7 +67,9 @@ class ZEL_API DrawerSynchronizerCollection {
 public:
     DrawerSynchronizerCollection();
     ~DrawerSynchronizerCollection();
+    /// Takes over what the other one holds.
     DrawerSynchronizerCollection(DrawerSynchronizerCollection&&) noexcept;
+    /// Takes over what the other one holds.
     DrawerSynchronizerCollection& operator=(DrawerSynchronizerCollection&&) noexcept;
 
     /// Offers the drawer to each synchronizer in order.

@@ -29,11 +29,13 @@ public:
     SeriesTimeCounter(const SeriesTimeCounter&) = delete;
     SeriesTimeCounter& operator=(const SeriesTimeCounter&) = delete;
 
+    /// Whether ticks leave the time as it is; false by default.
     bool getIsPaused() const { return paused; }
 
     /// Stops the clock where it is, or lets it go on. Emits `pausedChanged`.
     void setIsPaused(bool value);
 
+    /// The factor that was set last.
     float getSpeed() const { return speed; }
 
     /// Milliseconds of the record for each that passes, from the next tick on; 1 by default. Any value is
@@ -41,6 +43,7 @@ public:
     /// clock to 0.
     void setSpeed(float value);
 
+    /// The end of the record, in milliseconds.
     unsigned long getMax() const { return max; }
 
     /// Sets the end of the record; 0, the default, stands for no record. A clock past it falls to 0. Emits

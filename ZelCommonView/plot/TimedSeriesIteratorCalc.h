@@ -14,6 +14,7 @@ namespace ZelView {
 /// The points stay the caller's, in ascending order of time, and don't change while it lives.
 class ZEL_API TimedSeriesIteratorCalc {
 public:
+    /// A place in the points.
     using Iterator = std::vector<Zel::TimedPointF>::const_iterator;
 
     /// Begins at time 0 with no point reached, not even one of time 0.

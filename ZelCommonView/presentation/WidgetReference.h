@@ -14,6 +14,7 @@ public:
     WidgetReference(const WidgetReference&) = delete;
     WidgetReference& operator=(const WidgetReference&) = delete;
 
+    /// Points to another widget, or to none.
     WidgetReference& operator=(T* other) {
         _forget();
         widget = other;
@@ -22,8 +23,10 @@ public:
         return *this;
     }
 
+    /// The widget, null if it died.
     operator T*() const { return widget; }
 
+    /// The widget, which must not be null.
     T* operator->() const { return widget; }
 
 private:

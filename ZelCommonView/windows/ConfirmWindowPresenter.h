@@ -21,6 +21,7 @@ public:
     /// Hides or shows the two buttons; see `IConfirmWindowView::setIsReadOnly`. The value that stands already
     /// does nothing and makes no view.
     void setIsReadOnly(bool value);
+    /// What was set last.
     bool getIsReadOnly() const;
 
 protected:

@@ -34,8 +34,11 @@ public:
     }
 };
 
+/// All panels of a manager.
 using PanelCollectionView = PanelObjectCollection<PanelView>;
+/// All containers of a manager.
 using PanelContainerCollectionView = PanelObjectCollection<PanelContainerView>;
+/// The windows of floating panels.
 using WindowCollectionView = PanelObjectCollection<WindwView>;
 
 } // namespace Zel

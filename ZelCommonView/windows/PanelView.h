@@ -28,6 +28,7 @@ public:
 
     /// Sets the text of the title, UTF-8.
     virtual void setTitle(const std::string& title) = 0;
+    /// The text of the title.
     virtual std::string getTitle() = 0;
     /// Takes the title row away.
     virtual void removeTitle() = 0;
@@ -93,6 +94,7 @@ public:
     void setTitleHomogeneous(bool homogeneous);
     /// Puts a widget into the title row; it stays the caller's.
     void addToTitle(Gtk::Widget& widget);
+    /// Takes such a widget out again.
     void removeFromTitle(Gtk::Widget& widget);
 
     /// Takes the child's widget out of the title bar and hands it out; null if the child has none.

@@ -15,7 +15,9 @@ class ZEL_API IWindowRectangle {
 public:
     virtual ~IWindowRectangle();
 
+    /// Wants place and size, in pixels of the screen.
     virtual void setRectangle(const RectangleF& rectangle) = 0;
+    /// The present place and size, in pixels of the screen.
     virtual RectangleF getRectangle() const = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "GalleryWindow.h"
 
+#include "common/TextZoom.h"
+
 namespace gallery {
 
 GalleryWindow::GalleryWindow(const std::string& firstPage) {
@@ -15,6 +17,7 @@ GalleryWindow::GalleryWindow(const std::string& firstPage) {
     box.pack_start(stack, Gtk::PACK_EXPAND_WIDGET);
     add(box);
     show_all_children();
+    examples::installTextZoom(*this);
     // Only a visible child can be chosen.
     if (!firstPage.empty())
         stack.set_visible_child(firstPage);

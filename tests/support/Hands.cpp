@@ -6,9 +6,11 @@
 namespace test {
 
 void settle() {
-    constexpr gint64 twoFrames = 40000; // microseconds
+    constexpr gint64 twoFrames = 40000;  // microseconds
+    constexpr gint64 patience = 2000000; // microseconds
+    const gint64 end = g_get_monotonic_time() + patience;
     gint64 quietSince = g_get_monotonic_time();
-    while (g_get_monotonic_time() - quietSince < twoFrames) {
+    while (g_get_monotonic_time() - quietSince < twoFrames && g_get_monotonic_time() < end) {
         if (Gtk::Main::events_pending()) {
             Gtk::Main::iteration();
             quietSince = g_get_monotonic_time();

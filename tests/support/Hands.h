@@ -7,7 +7,8 @@
 
 namespace test {
 
-/// Runs the main loop until nothing has happened for two frames, so that all pending paints are done.
+/// Runs the main loop until nothing has happened for two frames, so that all pending paints are done; at most
+/// for two seconds, since a replay whose pictures are slow to paint never comes to rest.
 void settle();
 
 /// Runs the main loop until the condition holds; false if it doesn't within the time.

@@ -8,6 +8,24 @@
 
 namespace test {
 
+namespace {
+
+void moveKey(unsigned int code, bool isDown) {
+    Display* display = gdk_x11_get_default_xdisplay();
+    XTestFakeKeyEvent(display, code, isDown, CurrentTime);
+    XFlush(display);
+}
+
+} // namespace
+
+HeldKey::HeldKey(unsigned int key) : code(XKeysymToKeycode(gdk_x11_get_default_xdisplay(), key)) {
+    moveKey(code, true);
+}
+
+HeldKey::~HeldKey() {
+    moveKey(code, false);
+}
+
 void pressKey(unsigned int key) {
     Display* display = gdk_x11_get_default_xdisplay();
     const KeyCode code = XKeysymToKeycode(display, key);

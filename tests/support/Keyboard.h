@@ -13,4 +13,16 @@ void pressKey(unsigned int key);
 /// Types a text of plain ASCII characters.
 void type(const std::string& text);
 
+/// Holds a key down while it lives.
+class HeldKey {
+public:
+    explicit HeldKey(unsigned int key);
+    ~HeldKey();
+    HeldKey(const HeldKey&) = delete;
+    HeldKey& operator=(const HeldKey&) = delete;
+
+private:
+    unsigned int code; ///< of the display's keyboard
+};
+
 } // namespace test

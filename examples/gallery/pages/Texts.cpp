@@ -24,24 +24,17 @@ public:
         sample.set_line_wrap(true);
         for (Gtk::Label* label : {&size, &sample})
             label->set_xalign(0);
+        // The size may be changed elsewhere, too.
+        size.signal_style_updated().connect(sigc::mem_fun(*this, &TextSize::_showSize), true);
         _showSize();
     }
 
 private:
-    void _onSmaller() {
-        ZelView::StyleZoomHelper::zoomOut();
-        _showSize();
-    }
+    void _onSmaller() { ZelView::StyleZoomHelper::zoomOut(); }
 
-    void _onUsual() {
-        ZelView::StyleZoomHelper::zoomDefault();
-        _showSize();
-    }
+    void _onUsual() { ZelView::StyleZoomHelper::zoomDefault(); }
 
-    void _onLarger() {
-        ZelView::StyleZoomHelper::zoomIn();
-        _showSize();
-    }
+    void _onLarger() { ZelView::StyleZoomHelper::zoomIn(); }
 
     void _showSize() {
         size.set_text(words("Size: ", "Размер: ") + std::to_string(ZelView::StyleZoomHelper::getFontSize()) +

@@ -9,33 +9,9 @@
 
 #include <gtest/gtest.h>
 
-#include <X11/extensions/XTest.h>
-#include <gdk/gdkx.h>
-
 namespace {
 
 using ZelView::StyleZoomHelper;
-
-/// Holds a key down while it lives.
-class HeldKey {
-public:
-    explicit HeldKey(unsigned int key) : code(XKeysymToKeycode(gdk_x11_get_default_xdisplay(), key)) {
-        _move(True);
-    }
-
-    ~HeldKey() { _move(False); }
-
-    HeldKey(const HeldKey&) = delete;
-    HeldKey& operator=(const HeldKey&) = delete;
-
-private:
-    void _move(Bool isDown) const {
-        XTestFakeKeyEvent(gdk_x11_get_default_xdisplay(), code, isDown, CurrentTime);
-        XFlush(gdk_x11_get_default_xdisplay());
-    }
-
-    KeyCode code;
-};
 
 bool becomes(int size) {
     return test::waitFor([size] { return StyleZoomHelper::getFontSize() == size; }, 2000);
@@ -61,7 +37,7 @@ protected:
     ~TextZoomTest() override { StyleZoomHelper::zoomDefault(); }
 
     static void pressWithControl(unsigned int key) {
-        const HeldKey control(GDK_KEY_Control_L);
+        const test::HeldKey control(GDK_KEY_Control_L);
         test::pressKey(key);
     }
 
@@ -105,7 +81,7 @@ TEST_F(TextZoomTest, KeysWithoutControlAreTextAsEver) {
 }
 
 TEST_F(TextZoomTest, ControlWithAltIsNotMeant) {
-    const HeldKey alt(GDK_KEY_Alt_L);
+    const test::HeldKey alt(GDK_KEY_Alt_L);
     pressWithControl(GDK_KEY_equal);
     test::wait(200);
     EXPECT_EQ(StyleZoomHelper::getFontSize(), 14);
@@ -117,7 +93,7 @@ TEST_F(TextZoomTest, ARealWheelWithControlOverThePlaneZoomsTheText) {
     test::movePointer(scrolled, 100, 100);
     test::settle();
     {
-        const HeldKey control(GDK_KEY_Control_L);
+        const test::HeldKey control(GDK_KEY_Control_L);
         for (int i = 0; i < 3; ++i) {
             test::pressButton(4);
             test::releaseButton(4);
@@ -131,7 +107,7 @@ TEST_F(TextZoomTest, ARealWheelWithControlOverThePlaneZoomsTheText) {
     EXPECT_EQ(reports, 0u);
     // The field takes no part, and nothing else has changed.
     test::movePointer(entry, 50, 10);
-    const HeldKey control(GDK_KEY_Control_L);
+    const test::HeldKey control(GDK_KEY_Control_L);
     test::pressButton(4);
     test::releaseButton(4);
     EXPECT_TRUE(becomes(17));
