@@ -24,7 +24,6 @@ public:
 
         for (Zel::IPresenter* presenter : std::initializer_list<Zel::IPresenter*>{&add, &remove, &reset})
             buttons.pack_start(*Zel::GtkWidgetHelper::getWidget(presenter->getView()), Gtk::PACK_SHRINK);
-        _nameActions();
         pack_start(buttons, Gtk::PACK_SHRINK);
         rows.set_size_request(-1, 200);
         pack_start(rows, Gtk::PACK_SHRINK);
@@ -32,12 +31,6 @@ public:
     }
 
 private:
-    /// Without a theme they would be blank.
-    void _nameActions() {
-        dynamic_cast<Gtk::Button&>(*add.getView()).set_label("+");
-        dynamic_cast<Gtk::Button&>(*remove.getView()).set_label("−");
-    }
-
     void _onAdd() { _show(count + 1); }
 
     void _onRemove() { _show(std::max(count - 1, 0)); }

@@ -7,6 +7,7 @@
 
 #include <gtkmm.h>
 
+#include <cstdlib>
 #include <memory>
 
 namespace gallery {

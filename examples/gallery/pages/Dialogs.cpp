@@ -6,6 +6,7 @@
 #include <ZelCommonView/dialogs/DialogPresenter.h>
 #include <ZelCommonView/dialogs/FileDialogPresenter.h>
 #include <ZelCommonView/dialogs/WaitingDialogPresenter.h>
+#include <ZelCommonView/presentation/ApplicationDispatcher.h>
 
 #include <gtkmm.h>
 
@@ -20,6 +21,8 @@ namespace {
 class Dialogs : public Gtk::Box, public Zel::IView {
 public:
     Dialogs() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 8) {
+        // Once in a program, before another thread is there.
+        Zel::ApplicationDispatcherPresenter::getInstance().registerDispatcher();
         askButton.signal_clicked().connect(sigc::mem_fun(*this, &Dialogs::_onAsk), true);
         openButton.signal_clicked().connect(sigc::bind(sigc::mem_fun(*this, &Dialogs::_onFile), false), true);
         saveButton.signal_clicked().connect(sigc::bind(sigc::mem_fun(*this, &Dialogs::_onFile), true), true);
@@ -53,23 +56,28 @@ private:
 
     void _onJob() {
         isCancelled = false;
-        int done = 0;
-        waiting.open(
-            this, words("A job", "Задание"), words("Begins", "Начинается"), true,
-            [this, &done] {
-                // On a thread of its own: nothing but `setMessage` may touch widgets.
-                for (; done < 30 && !isCancelled; ++done) {
-                    waiting.setMessage(std::to_string(done) + " / 30");
-                    std::this_thread::sleep_for(std::chrono::milliseconds(100));
-                }
-            },
-            [this] { isCancelled = true; });
+        done = 0;
+        {
+            Zel::WaitingDialogPresenter waiting; // a new one for each job
+            waiting.open(
+                this, words("Begins", "Начинается"), words("A job", "Задание"),
+                [this, &waiting] {
+                    // On a thread of its own: nothing but `setMessage` may touch widgets.
+                    for (; done < 30 && !isCancelled; ++done) {
+                        waiting.setMessage(std::to_string(done) + " / 30");
+                        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+                    }
+                },
+                true, [this] { isCancelled = true; });
+            // Escape ends the dialog but not the job, for which the end of the block waits.
+            isCancelled = true;
+        }
         result.set_text(words("Steps done: ", "Сделано шагов: ") + std::to_string(done));
     }
 
     Zel::FileDialogPresenter files;
-    Zel::WaitingDialogPresenter waiting;
-    std::atomic<bool> isCancelled = false;
+    std::atomic<bool> isCancelled{false};
+    std::atomic<int> done{0};
     Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 8};
     Gtk::Button askButton{words("Ask", "Спросить")};
     Gtk::Button openButton{words("Open a file", "Открыть файл")};

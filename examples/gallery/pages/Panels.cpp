@@ -16,12 +16,18 @@ namespace {
 /// What a panel shows; it puts a button into the title bar, too.
 class Content : public Gtk::Label, public Zel::IView, public Zel::IWidget {
 public:
-    explicit Content(const std::string& text) { set_text(text); }
+    explicit Content(const std::string& given) : text(given) {
+        set_text(text);
+        bold.signal_toggled().connect(sigc::mem_fun(*this, &Content::_onToggled), true);
+    }
 
-    Gtk::Widget* getIcons() override { return &pin; }
+    Gtk::Widget* getIcons() override { return &bold; }
 
 private:
-    Gtk::ToggleButton pin{"📌"};
+    void _onToggled() { set_markup(bold.get_active() ? "<b>" + text + "</b>" : text); }
+
+    std::string text;
+    Gtk::ToggleButton bold{"B"};
 };
 
 class Panels : public Gtk::Box {

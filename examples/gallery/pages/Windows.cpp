@@ -53,20 +53,19 @@ private:
         bar = std::make_unique<Zel::Window>();
         bar->set_title(words("A title bar of its own", "Собственный заголовок"));
         bar->set_default_size(520, 240);
-        pin.set_label(words("Pin", "Закрепить"));
-        bar->setUserButtons(&pin);
-        bar->show_all();
+        bar->setUserButtons(&pin); // this shows the window, too
     }
 
     Note note;
-    Zel::WindowPresenter presenter;
-    Gtk::ToggleButton pin;
-    std::unique_ptr<Zel::Window> bar;
+    Gtk::ToggleButton pin{words("Pin", "Закрепить")};
     Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 8};
     Gtk::Button openButton{words("Open a window", "Открыть окно")};
     Gtk::CheckButton modal{words("modal", "модальное")};
     Gtk::Button barButton{words("Window with a bar of its own", "Окно с собственным заголовком")};
     Gtk::Label state;
+    // Last, so that windows close before what they show is gone.
+    Zel::WindowPresenter presenter;
+    std::unique_ptr<Zel::Window> bar;
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "Words.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -9,20 +10,32 @@ namespace viewer {
 
 namespace {
 
-/// "smallest … largest"; empty if no sample is there.
-std::string limitsOf(const std::vector<float>& samples) {
+struct Limits {
     float smallest = INFINITY;
     float largest = -INFINITY;
+
+    bool areThere() const { return smallest <= largest; }
+
+    double extent() const { return areThere() ? std::max(std::abs(smallest), std::abs(largest)) : 0; }
+
+    /// "smallest … largest"; empty without a sample.
+    std::string text() const {
+        if (!areThere())
+            return "";
+        char buffer[64];
+        std::snprintf(buffer, sizeof(buffer), "%.4g … %.4g", smallest, largest);
+        return buffer;
+    }
+};
+
+Limits limitsOf(const std::vector<float>& samples) {
+    Limits limits;
     for (const float sample : samples)
         if (std::isfinite(sample)) {
-            smallest = std::min(smallest, sample);
-            largest = std::max(largest, sample);
+            limits.smallest = std::min(limits.smallest, sample);
+            limits.largest = std::max(limits.largest, sample);
         }
-    if (smallest > largest)
-        return "";
-    char text[64];
-    std::snprintf(text, sizeof(text), "%.4g … %.4g", smallest, largest);
-    return text;
+    return limits;
 }
 
 } // namespace
@@ -32,6 +45,7 @@ ChannelTable::Columns::Columns() {
     add(name);
     add(unit);
     add(values);
+    add(extent);
 }
 
 ChannelTable::ChannelTable() : model(Gtk::ListStore::create(columns)) {
@@ -41,7 +55,7 @@ ChannelTable::ChannelTable() : model(Gtk::ListStore::create(columns)) {
     view.append_column(words::channelUnit(), columns.unit);
     view.append_column(words::channelValues(), columns.values);
     const Gtk::TreeModelColumnBase* const sorted[] = {&columns.number, &columns.name, &columns.unit,
-                                                      &columns.values};
+                                                      &columns.extent};
     for (int i = 0; i < 4; ++i) {
         view.get_column(i)->set_sort_column(*sorted[i]);
         view.get_column(i)->set_resizable(true);
@@ -60,21 +74,26 @@ void ChannelTable::setRecord(const record::Record& record) {
     view.unset_model();
     model->clear();
     int number = 0;
-    for (const record::AnalogChannel& channel : record.analogs)
-        _addRow(++number, channel.name, channel.unit, limitsOf(channel.samples));
-    for (const record::BinaryChannel& channel : record.binaries)
-        _addRow(++number, channel.name, "",
-                words::changes() + std::to_string(channel.samples.transitionCount()));
+    for (const record::AnalogChannel& channel : record.analogs) {
+        const Limits limits = limitsOf(channel.samples);
+        _addRow(++number, channel.name, channel.unit, limits.text(), limits.extent());
+    }
+    for (const record::BinaryChannel& channel : record.binaries) {
+        const auto changes = channel.samples.transitionCount();
+        _addRow(++number, channel.name, "", words::changes() + std::to_string(changes),
+                static_cast<double>(changes));
+    }
     view.set_model(model);
 }
 
 void ChannelTable::_addRow(int number, const std::string& name, const std::string& unit,
-                           const std::string& values) {
+                           const std::string& values, double extent) {
     const Gtk::TreeModel::Row row = *model->append();
     row[columns.number] = number;
     row[columns.name] = name;
     row[columns.unit] = unit;
     row[columns.values] = values;
+    row[columns.extent] = extent;
 }
 
 } // namespace viewer

@@ -28,9 +28,11 @@ private:
         Gtk::TreeModelColumn<Glib::ustring> name;
         Gtk::TreeModelColumn<Glib::ustring> unit;
         Gtk::TreeModelColumn<Glib::ustring> values;
+        Gtk::TreeModelColumn<double> extent; ///< by which the values are sorted: largest deviation from 0
     };
 
-    void _addRow(int number, const std::string& name, const std::string& unit, const std::string& values);
+    void _addRow(int number, const std::string& name, const std::string& unit, const std::string& values,
+                 double extent);
 
     Columns columns;
     Glib::RefPtr<Gtk::ListStore> model;

@@ -1,8 +1,10 @@
 #include "MainWindow.h"
 
 #include "Words.h"
+#include "common/Look.h"
 #include "common/TextZoom.h"
 
+#include <ZelCommonView/common/ErrBuf.h>
 #include <ZelCommonView/dialogs/AboutWords.h>
 #include <ZelCommonView/dialogs/HelpView.h>
 #include <ZelCommonView/presentation/GtkWidgetHelper.h>
@@ -19,15 +21,17 @@ constexpr const char* version = "0.1";
 
 } // namespace
 
-MainWindow::MainWindow(const std::string& title, const std::string& placeFile) {
-    set_title(title);
+MainWindow::MainWindow(const std::string& file, const std::string& placeFile) {
+    examples::installLook();
+    set_title(file);
     set_default_size(width, height);
     if (!placeFile.empty()) {
         place = std::make_unique<WindowPlace>(*this, placeFile);
-        signal_unmap().connect(sigc::mem_fun(*this, &MainWindow::_onHidden), false);
+        // While it still has a place.
+        signal_unmap().connect(sigc::mem_fun(*this, &MainWindow::_onUnmap), false);
     }
-    _composePanels();
     _composeBar();
+    arrangePanels();
     _tiePages();
     signal_key_press_event().connect(sigc::mem_fun(*this, &MainWindow::_onKeyPress), false);
     examples::installTextZoom(*this);
@@ -43,29 +47,44 @@ void MainWindow::setRecord(record::Record record, Impedances impedances) {
     page.setRecord(std::move(record));
 }
 
-void MainWindow::_composePanels() {
+void MainWindow::arrangePanels() {
     using Zel::Positions;
-    Zel::IPanelView* const left = panels.newPanel(words::oscillogram(), Positions::Left, page, nullptr);
-    Zel::IPanelView* const right = panels.newPanel(words::hodograph(), Positions::Right, hodograph, nullptr);
-    Zel::IPanelView* const tab = panels.newPanel(words::zPlane(), Positions::Center, plane, right);
-    Zel::IPanelView* const below = panels.newPanel(words::channels(), Positions::Bottom, channels, right);
+    // With the former manager go its panels and the windows of those that float.
+    panels.reset();
+    panels = std::make_unique<Zel::PanelManagerPresenter>();
+    Zel::IPanelView* const left = panels->newPanel(words::oscillogram(), Positions::Left, page, nullptr);
+    Zel::IPanelView* const right = panels->newPanel(words::hodograph(), Positions::Right, hodograph, nullptr);
+    Zel::IPanelView* const tab = panels->newPanel(words::zPlane(), Positions::Center, plane, right);
+    Zel::IPanelView* const below = panels->newPanel(words::channels(), Positions::Bottom, channels, right);
     for (Zel::IPanelView* const panel : {left, right, tab, below})
-        panel->setProperties(true, false); // a closed panel could not be brought back
-    left->setSize(760, 400);
-    right->setSize(480, 360);
-    tab->setSize(480, 360);
-    below->setSize(480, 160);
-    add(*Zel::GtkWidgetHelper::getWidget(panels.getView()));
+        panel->setProperties(true, true);
+    // The dividers stand where these sizes put them.
+    left->setSize(640, 400);
+    right->setSize(420, 360);
+    tab->setSize(420, 360);
+    below->setSize(420, 140);
+    Gtk::Widget& view = *Zel::GtkWidgetHelper::getWidget(panels->getView());
+    add(view);
+    view.show_all();
 }
 
 void MainWindow::_composeBar() {
+    arrangeButton.set_label(words::resetPanels());
     helpButton.set_label(words::help());
     aboutButton.set_label(lng::View::About::about());
+    arrangeButton.signal_clicked().connect(sigc::mem_fun(*this, &MainWindow::arrangePanels));
     helpButton.signal_clicked().connect(sigc::mem_fun(*this, &MainWindow::_onHelp));
     aboutButton.signal_clicked().connect(sigc::mem_fun(*this, &MainWindow::_onAbout));
-    buttons.pack_start(helpButton, Gtk::PACK_SHRINK);
-    buttons.pack_start(aboutButton, Gtk::PACK_SHRINK);
-    setUserButtons(&buttons);
+    for (Gtk::Button* const button : {&arrangeButton, &helpButton, &aboutButton})
+        buttons.pack_start(*button, Gtk::PACK_SHRINK);
+    buttons.set_margin_end(12);
+}
+
+void MainWindow::on_show() {
+    Zel::Window::on_show();
+    // Not before: giving the bar its buttons shows the whole window.
+    if (!buttons.get_parent())
+        setUserButtons(&buttons);
 }
 
 void MainWindow::_tiePages() {
@@ -82,14 +101,18 @@ bool MainWindow::_onKeyPress(GdkEventKey* event) {
 }
 
 void MainWindow::_onHelp() {
-    Zel::HelpView().show(this, words::helpFile());
+    try {
+        Zel::HelpView().show(this, words::helpFile());
+    } catch (const cross::ErrBufLastErr&) {
+        // It has told what happened; to ask for help must not end the program.
+    }
 }
 
 void MainWindow::_onAbout() {
     about.show(this, words::programName(), version);
 }
 
-void MainWindow::_onHidden() {
+void MainWindow::_onUnmap() {
     place->save();
 }
 

@@ -14,41 +14,48 @@
 #include <gtkmm/box.h>
 #include <gtkmm/button.h>
 
+#include <memory>
 #include <string>
 
 namespace viewer {
 
 /// The viewer's window: one record in four panels, which are empty until it is read and which a person
-/// arranges at will. Both panels of impedances show the same loop, and the dot in the Z plane stands where
-/// the replay of the hodograph does. F1 opens the help; Ctrl with plus, minus, 0 or the wheel changes the
-/// size of the text.
+/// arranges, closes and brings back at will. Both panels of impedances show the same loop, and the dot in the
+/// Z plane stands where the replay of the hodograph does. F1 opens the help; Ctrl with plus, minus, 0 or the
+/// wheel changes the size of the text.
 class MainWindow : public Zel::Window, public Zel::IView {
 public:
-    /// Place and size are kept in `placeFile`; an empty name keeps none.
-    explicit MainWindow(const std::string& title, const std::string& placeFile = "");
+    /// The title names the record's file. Place and size are kept in `placeFile`; an empty name keeps none.
+    explicit MainWindow(const std::string& file, const std::string& placeFile = "");
     ~MainWindow() override;
 
     /// Shows a record in place of the former one, with what was computed from its samples before.
     void setRecord(record::Record record, Impedances impedances);
+
+    /// Puts the panels where they stand at first, those that were closed or float, too.
+    void arrangePanels();
 
     RecordPage page;
     HodographPage hodograph;
     ZPlanePage plane;
     ChannelTable channels;
 
+protected:
+    void on_show() override;
+
 private:
-    void _tiePages();
-    void _composePanels();
     void _composeBar();
+    void _tiePages();
     bool _onKeyPress(GdkEventKey* event);
     void _onHelp();
     void _onAbout();
-    void _onHidden();
+    void _onUnmap();
 
-    std::unique_ptr<WindowPlace> place; ///< null if none is kept
-    Zel::PanelManagerPresenter panels;
+    std::unique_ptr<WindowPlace> place;                 ///< null if none is kept
+    std::unique_ptr<Zel::PanelManagerPresenter> panels; ///< never null
     Zel::AboutWindowActivatorPresenter about;
     Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 4};
+    Gtk::Button arrangeButton;
     Gtk::Button helpButton;
     Gtk::Button aboutButton;
 };

@@ -11,6 +11,7 @@ namespace viewer {
 namespace {
 
 constexpr const char* group = "window";
+constexpr double largest = 16384; // pixels; no screen is as large, and greater windows can't be painted
 
 } // namespace
 
@@ -18,8 +19,8 @@ std::string WindowPlace::usualFile() {
     return Glib::build_filename(Glib::get_user_config_dir(), "record-viewer", "window.ini");
 }
 
-WindowPlace::WindowPlace(Gtk::Window& window, const std::string& givenFile)
-    : file(givenFile), manager(window) {
+WindowPlace::WindowPlace(Gtk::Window& givenWindow, const std::string& givenFile)
+    : window(givenWindow), file(givenFile), manager(givenWindow) {
     _load();
 }
 
@@ -27,16 +28,24 @@ void WindowPlace::_load() {
     try {
         Glib::KeyFile keys;
         keys.load_from_file(file);
-        const auto number = [&keys](const char* key) {
-            return static_cast<float>(keys.get_double(group, key));
-        };
-        manager.setRectangle({number("x"), number("y"), number("width"), number("height")});
+        float numbers[4] = {};
+        int i = 0;
+        for (const char* const key : {"x", "y", "width", "height"}) {
+            const double number = keys.get_double(group, key);
+            if (!(number >= -largest && number <= largest))
+                return;
+            numbers[i++] = static_cast<float>(number);
+        }
+        manager.setRectangle({numbers[0], numbers[1], numbers[2], numbers[3]});
     } catch (const Glib::Error&) {
         // The first start, or a file that someone else has written.
     }
 }
 
 void WindowPlace::save() const {
+    // That of the screen is not the one to come back to.
+    if (window.is_maximized())
+        return;
     const Zel::RectangleF rectangle = manager.getRectangle();
     Glib::KeyFile keys;
     keys.set_double(group, "x", rectangle.x);

@@ -16,13 +16,15 @@ public:
     /// shown. A file that isn't there or can't be read leaves both to Gtk.
     WindowPlace(Gtk::Window& window, const std::string& file);
 
-    /// Writes the present place and size. What can't be written is left out without a word: it is no reason
+    /// Writes the present place and size; while the window is maximized nothing, so that the file keeps those
+    /// before. What can't be written is left out without a word: it is no reason
     /// to keep a person from leaving.
     void save() const;
 
 private:
     void _load();
 
+    Gtk::Window& window;
     std::string file;
     Zel::WindowRectangleManager manager;
 };

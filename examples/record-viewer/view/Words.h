@@ -110,6 +110,11 @@ inline const char* changes() {
     return ar[lng::index()];
 }
 
+inline const char* resetPanels() {
+    static const char* const ar[] = {"Reset panels", "Вернуть панели"};
+    return ar[lng::index()];
+}
+
 inline const char* help() {
     static const char* const ar[] = {"Help", "Справка"};
     return ar[lng::index()];
