@@ -34,6 +34,8 @@ button.btnUnMax, button.btnToWindow { background-image: -gtk-icontheme("window-r
 button.ToolAddButtonTransparent { background-image: -gtk-icontheme("list-add-symbolic"); }
 button.ToolRemoveButtonTransparent { background-image: -gtk-icontheme("list-remove-symbolic"); }
 
+.panel > overlay > * > box > box:first-child { background-color: alpha(@borders, 0.35); }
+.panelTabs > stack { background-color: @theme_bg_color; }
 .panel { border: 1px solid @borders; }
 .headerButtons button { min-width: 14px; min-height: 14px; padding: 2px 3px; }
 .demoboxPanel { background-color: @theme_selected_bg_color; }

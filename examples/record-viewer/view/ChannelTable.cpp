@@ -1,5 +1,6 @@
 #include "ChannelTable.h"
 
+#include "Quantity.h"
 #include "Words.h"
 
 #include <algorithm>
@@ -18,12 +19,12 @@ struct Limits {
 
     double extent() const { return areThere() ? std::max(std::abs(smallest), std::abs(largest)) : 0; }
 
-    /// "smallest … largest"; empty without a sample.
-    std::string text() const {
+    /// "smallest … largest", multiplied by the factor; empty without a sample.
+    std::string text(double factor) const {
         if (!areThere())
             return "";
         char buffer[64];
-        std::snprintf(buffer, sizeof(buffer), "%.4g … %.4g", smallest, largest);
+        std::snprintf(buffer, sizeof(buffer), "%.5g … %.5g", smallest * factor, largest * factor);
         return buffer;
     }
 };
@@ -76,7 +77,8 @@ void ChannelTable::setRecord(const record::Record& record) {
     int number = 0;
     for (const record::AnalogChannel& channel : record.analogs) {
         const Limits limits = limitsOf(channel.samples);
-        _addRow(++number, channel.name, channel.unit, limits.text(), limits.extent());
+        const Scale scale = scaleFor(channel.unit, limits.extent());
+        _addRow(++number, channel.name, scale.unit, limits.text(scale.factor), limits.extent());
     }
     for (const record::BinaryChannel& channel : record.binaries) {
         const auto changes = channel.samples.transitionCount();

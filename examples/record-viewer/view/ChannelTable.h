@@ -10,8 +10,8 @@
 
 namespace viewer {
 
-/// All channels of a record with their unit and the smallest and largest sample; binaries with the number of
-/// their changes. Sorted by a click on a header. Empty until there is a record.
+/// All channels of a record with the smallest and largest sample, in a unit whose prefix suits them; binaries
+/// with the number of their changes. Sorted by a click on a header. Empty until there is a record.
 class ChannelTable : public Gtk::ScrolledWindow, public Zel::IView {
 public:
     ChannelTable();
@@ -28,7 +28,7 @@ private:
         Gtk::TreeModelColumn<Glib::ustring> name;
         Gtk::TreeModelColumn<Glib::ustring> unit;
         Gtk::TreeModelColumn<Glib::ustring> values;
-        Gtk::TreeModelColumn<double> extent; ///< by which the values are sorted: largest deviation from 0
+        Gtk::TreeModelColumn<double> extent; ///< by which the values are sorted: largest deviation from 0 as recorded
     };
 
     void _addRow(int number, const std::string& name, const std::string& unit, const std::string& values,

@@ -25,11 +25,8 @@ MainWindow::MainWindow(const std::string& file, const std::string& placeFile) {
     examples::installLook();
     set_title(file);
     set_default_size(width, height);
-    if (!placeFile.empty()) {
+    if (!placeFile.empty())
         place = std::make_unique<WindowPlace>(*this, placeFile);
-        // While it still has a place.
-        signal_unmap().connect(sigc::mem_fun(*this, &MainWindow::_onUnmap), false);
-    }
     _composeBar();
     arrangePanels();
     _tiePages();
@@ -37,7 +34,10 @@ MainWindow::MainWindow(const std::string& file, const std::string& placeFile) {
     examples::installTextZoom(*this);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    // While all of it still stands: a window that is on the screen leaves it now and keeps its place.
+    hide();
+}
 
 void MainWindow::setRecord(record::Record record, Impedances impedances) {
     const auto shared = std::make_shared<const Impedances>(std::move(impedances));
@@ -93,6 +93,13 @@ void MainWindow::_tiePages() {
     hodograph.signalTimeChanged.connect(sigc::mem_fun(plane, &ZPlanePage::showTime));
 }
 
+void MainWindow::on_unmap() {
+    // While it still has a place.
+    if (place)
+        place->save();
+    Zel::Window::on_unmap();
+}
+
 bool MainWindow::_onKeyPress(GdkEventKey* event) {
     if (event->keyval != GDK_KEY_F1)
         return false;
@@ -110,10 +117,6 @@ void MainWindow::_onHelp() {
 
 void MainWindow::_onAbout() {
     about.show(this, words::programName(), version);
-}
-
-void MainWindow::_onUnmap() {
-    place->save();
 }
 
 } // namespace viewer

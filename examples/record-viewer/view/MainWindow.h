@@ -42,6 +42,7 @@ public:
 
 protected:
     void on_show() override;
+    void on_unmap() override;
 
 private:
     void _composeBar();
@@ -49,7 +50,6 @@ private:
     bool _onKeyPress(GdkEventKey* event);
     void _onHelp();
     void _onAbout();
-    void _onUnmap();
 
     std::unique_ptr<WindowPlace> place;                 ///< null if none is kept
     std::unique_ptr<Zel::PanelManagerPresenter> panels; ///< never null
