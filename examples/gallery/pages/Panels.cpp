@@ -62,10 +62,16 @@ private:
             presenter.newPanel(words("Panel ", "Панель ") + number, position, content, nullptr);
         panel->setProperties(true, true);
         panel->setSize(180, 90);
+        // The first one of all isn't shown by itself.
+        dynamic_cast<Gtk::Widget&>(*panel).show_all();
     }
 
     void _onClear() {
         presenter.deleteAll();
+        // The windows of floating panels stay, without their content.
+        for (const auto& window :
+             dynamic_cast<Zel::PanelManagerView&>(*presenter.getView()).getWindowCollection())
+            window->hide();
         contents.clear();
     }
 
