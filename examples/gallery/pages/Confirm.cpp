@@ -18,6 +18,9 @@ class Setting : public Gtk::Box, public Zel::IView {
 public:
     Setting() : Gtk::Box(Gtk::ORIENTATION_HORIZONTAL, 8) {
         property_margin() = 12;
+        set_hexpand(true);
+        set_vexpand(true);
+        entry.set_valign(Gtk::ALIGN_CENTER);
         pack_start(caption, Gtk::PACK_SHRINK);
         pack_start(entry, Gtk::PACK_EXPAND_WIDGET);
     }
@@ -38,6 +41,9 @@ public:
         buttons.pack_start(button, Gtk::PACK_SHRINK);
         buttons.pack_start(readOnly, Gtk::PACK_SHRINK);
         pack_start(buttons, Gtk::PACK_SHRINK);
+        hint.set_xalign(0);
+        hint.set_line_wrap(true);
+        pack_start(hint, Gtk::PACK_SHRINK);
         result.set_xalign(0);
         result.set_text(words("Nothing was asked yet.", "Ещё ничего не спрошено."));
         pack_start(result, Gtk::PACK_SHRINK);
@@ -80,6 +86,8 @@ private:
     Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 8};
     Gtk::Button button{words("Ask", "Спросить")};
     Gtk::CheckButton readOnly{words("for reading only", "только чтение")};
+    Gtk::Label hint{words("OK closes the window only if the number is in its range; Cancel always does.",
+                          "«OK» закрывает окно, только если число в пределах, «Отмена» — всегда.")};
     Gtk::Label result;
 };
 

@@ -30,6 +30,9 @@ public:
         for (Gtk::Button* button : {&askButton, &openButton, &saveButton, &jobButton})
             buttons.pack_start(*button, Gtk::PACK_SHRINK);
         pack_start(buttons, Gtk::PACK_SHRINK);
+        hint.set_xalign(0);
+        hint.set_line_wrap(true);
+        pack_start(hint, Gtk::PACK_SHRINK);
         result.set_xalign(0);
         result.set_text(words("Nothing yet.", "Пока ничего."));
         pack_start(result, Gtk::PACK_SHRINK);
@@ -83,6 +86,8 @@ private:
     Gtk::Button openButton{words("Open a file", "Открыть файл")};
     Gtk::Button saveButton{words("Save a file", "Сохранить файл")};
     Gtk::Button jobButton{words("A long job", "Долгое задание")};
+    Gtk::Label hint{words("The job counts to thirty in three seconds; Cancel ends it before.",
+                          "Задание считает до тридцати за три секунды, «Отмена» прерывает его.")};
     Gtk::Label result;
 };
 

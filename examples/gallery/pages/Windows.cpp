@@ -30,6 +30,9 @@ public:
         for (Gtk::Widget* widget : std::initializer_list<Gtk::Widget*>{&openButton, &modal, &barButton})
             buttons.pack_start(*widget, Gtk::PACK_SHRINK);
         pack_start(buttons, Gtk::PACK_SHRINK);
+        hint.set_xalign(0);
+        hint.set_line_wrap(true);
+        pack_start(hint, Gtk::PACK_SHRINK);
         pack_start(state, Gtk::PACK_SHRINK);
         state.set_xalign(0);
         _onClosed();
@@ -53,6 +56,9 @@ private:
         bar = std::make_unique<Zel::Window>();
         bar->set_title(words("A title bar of its own", "Собственный заголовок"));
         bar->set_default_size(520, 240);
+        if (auto* const parent = dynamic_cast<Gtk::Window*>(get_toplevel()))
+            bar->set_transient_for(*parent);
+        bar->set_position(Gtk::WIN_POS_CENTER_ON_PARENT);
         bar->setUserButtons(&pin); // this shows the window, too
     }
 
@@ -62,6 +68,8 @@ private:
     Gtk::Button openButton{words("Open a window", "Открыть окно")};
     Gtk::CheckButton modal{words("modal", "модальное")};
     Gtk::Button barButton{words("Window with a bar of its own", "Окно с собственным заголовком")};
+    Gtk::Label hint{words("The first kind is drawn by the window manager, the second draws its own bar.",
+                          "Первое рисует менеджер окон, второе само рисует свой заголовок.")};
     Gtk::Label state;
     // Last, so that windows close before what they show is gone.
     Zel::WindowPresenter presenter;

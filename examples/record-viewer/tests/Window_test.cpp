@@ -238,6 +238,32 @@ TEST_F(ViewerWindow, APanelIsDraggedByItsTitle) {
     EXPECT_LT(below, 0);
 }
 
+TEST_F(ViewerWindow, WhatIsDraggedInAPanelLeavesThePanelWhereItIs) {
+    MainWindow window("test");
+    showDemo(window);
+    show(window);
+    const auto expectNoDrag = [&](Gtk::Widget& content, const std::string& title, int y) {
+        const Zel::PanelView& panel = test::panelOf(window, title);
+        test::movePointer(content, 150, y);
+        test::settle();
+        test::pressButton();
+        for (int i = 1; i <= 8; ++i) {
+            test::movePointer(content, 150 + 8 * i, y + 2 * i);
+            test::wait(20);
+            EXPECT_FALSE(panel.isDragSource) << title << " at " << y;
+        }
+        test::releaseButton();
+        test::settle();
+    };
+    expectNoDrag(window.page.oscillograph, "Oscillogram", 100);
+    expectNoDrag(window.page.oscillograph, "Oscillogram", 400);
+    expectNoDrag(window.hodograph.hodograph, "Hodograph", 100);
+    expectNoDrag(window.channels, "Channels", 60);
+    test::clickTab(window, "Z plane");
+    expectNoDrag(window.plane.diagram, "Z plane", 100);
+    EXPECT_EQ(seen(window), "OZC");
+}
+
 TEST_F(ViewerWindow, EndsTheProgramAlsoWhileAPanelFloats) {
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
     auto window = std::make_unique<MainWindow>("test");

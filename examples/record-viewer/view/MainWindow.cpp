@@ -30,6 +30,10 @@ MainWindow::MainWindow(const std::string& file, const std::string& placeFile) {
     _composeBar();
     arrangePanels();
     _tiePages();
+    for (Gtk::Widget* const content :
+         std::initializer_list<Gtk::Widget*>{&page, &hodograph, &plane, &channels})
+        content->signal_button_press_event().connect(sigc::mem_fun(*this, &MainWindow::_onContentPress),
+                                                     false);
     signal_key_press_event().connect(sigc::mem_fun(*this, &MainWindow::_onKeyPress), false);
     examples::installTextZoom(*this);
 }
@@ -98,6 +102,11 @@ void MainWindow::on_unmap() {
     if (place)
         place->save();
     Zel::Window::on_unmap();
+}
+
+bool MainWindow::_onContentPress(GdkEventButton* event) {
+    // What the content lets through would drag its panel: a marker or a plane is to be dragged by itself.
+    return event->button == GDK_BUTTON_PRIMARY;
 }
 
 bool MainWindow::_onKeyPress(GdkEventKey* event) {

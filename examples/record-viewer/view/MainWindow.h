@@ -20,7 +20,7 @@
 namespace viewer {
 
 /// The viewer's window: one record in four panels, which are empty until it is read and which a person
-/// arranges, closes and brings back at will. Both panels of impedances show the same loop, and the dot in the
+/// arranges by their titles, closes and brings back at will. Both panels of impedances show the same loop, and the dot in the
 /// Z plane stands where the replay of the hodograph does. F1 opens the help; Ctrl with plus, minus, 0 or the
 /// wheel changes the size of the text.
 class MainWindow : public Zel::Window, public Zel::IView {
@@ -47,6 +47,7 @@ protected:
 private:
     void _composeBar();
     void _tiePages();
+    bool _onContentPress(GdkEventButton* event);
     bool _onKeyPress(GdkEventKey* event);
     void _onHelp();
     void _onAbout();
