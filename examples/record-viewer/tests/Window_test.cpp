@@ -47,6 +47,18 @@ protected:
         return all;
     }
 
+    static void expectSeen(MainWindow& window, const std::string& letters) {
+        test::waitFor([&] { return seen(window) == letters; });
+        EXPECT_EQ(seen(window), letters);
+    }
+
+    /// Clicks a button in the title of a panel.
+    static void press(Gtk::Button& button) {
+        if (!test::waitFor([&button] { return button.get_mapped(); }))
+            throw std::runtime_error("the button is not on the screen");
+        test::click(button);
+    }
+
     static Gtk::Window* findWindow(const std::string& title) {
         for (Gtk::Window* const window : Gtk::Window::list_toplevels())
             if (window->get_title() == title && window->get_mapped())
@@ -112,7 +124,7 @@ TEST_F(ViewerWindow, StaysHiddenUntilItIsShownAndThenHasItsButtons) {
     test::wait(200);
     for (Gtk::Button* const button : {&window.arrangeButton, &window.helpButton, &window.aboutButton})
         EXPECT_TRUE(button->get_mapped());
-    EXPECT_EQ(seen(window), "OHC");
+    expectSeen(window, "OHC");
     window.hide();
     test::settle();
     window.show();
@@ -131,7 +143,7 @@ TEST_F(ViewerWindow, ShowsTheRecordInPanelsWithRoomForAll) {
         EXPECT_GE(panel.get_allocated_width(), 400) << title;
         EXPECT_GE(panel.get_allocated_height(), 140) << title;
     }
-    EXPECT_EQ(seen(window), "OZC");
+    expectSeen(window, "OZC");
     EXPECT_EQ(window.channels.model->children().size(), 18u);
 }
 
@@ -139,30 +151,30 @@ TEST_F(ViewerWindow, AClosedPanelLeavesTheOthersAndKeepsWhatItShows) {
     MainWindow window("test");
     showDemo(window);
     show(window);
-    test::click(test::panelOf(window, "Channels").btnClose);
-    EXPECT_EQ(seen(window), "OH");
+    press(test::panelOf(window, "Channels").btnClose);
+    expectSeen(window, "OH");
     test::clickTab(window, "Z plane");
-    test::click(test::panelOf(window, "Hodograph").btnClose);
-    EXPECT_EQ(seen(window), "OZ");
+    press(test::panelOf(window, "Hodograph").btnClose);
+    expectSeen(window, "OZ");
 
     // The same again and then a record without impedances, while they are closed.
     showDemo(window);
-    EXPECT_EQ(seen(window), "OZ");
+    expectSeen(window, "OZ");
     test::click(window.arrangeButton);
-    EXPECT_EQ(seen(window), "OHC");
+    expectSeen(window, "OHC");
     EXPECT_EQ(window.channels.model->children().size(), 18u);
     EXPECT_EQ(window.hodograph.hodograph.series.size(), 1u);
 
-    test::click(test::panelOf(window, "Channels").btnClose);
+    press(test::panelOf(window, "Channels").btnClose);
     test::writeFile(folder.path / "small.csv", "time,A\ns,A\n0,20\n1,30\n2,40\n");
     record::Record small = record::open(folder.path / "small.csv");
     viewer::Impedances none = viewer::computeImpedances(small);
     window.setRecord(std::move(small), std::move(none));
     test::settle();
-    EXPECT_EQ(seen(window), "OH");
+    expectSeen(window, "OH");
     EXPECT_TRUE(window.hodograph.problem.get_mapped());
     test::click(window.arrangeButton);
-    EXPECT_EQ(seen(window), "OHC");
+    expectSeen(window, "OHC");
     EXPECT_EQ(window.channels.model->children().size(), 1u);
     EXPECT_TRUE(window.hodograph.problem.get_mapped());
     showDemo(window);
@@ -175,37 +187,37 @@ TEST_F(ViewerWindow, AllPanelsMayBeClosedAndComeBack) {
     showDemo(window);
     show(window);
     for (const char* const title : {"Oscillogram", "Hodograph", "Channels", "Z plane"})
-        test::click(test::panelOf(window, title).btnClose);
-    EXPECT_EQ(seen(window), "");
+        press(test::panelOf(window, title).btnClose);
+    expectSeen(window, "");
     test::click(window.arrangeButton);
-    EXPECT_EQ(seen(window), "OHC");
+    expectSeen(window, "OHC");
     test::clickTab(window, "Z plane");
-    EXPECT_EQ(seen(window), "OZC");
+    expectSeen(window, "OZC");
 }
 
 TEST_F(ViewerWindow, APanelInAWindowOfItsOwnComesBackEvenWhenThatIsClosed) {
     MainWindow window("test");
     showDemo(window);
     show(window);
-    test::click(test::panelOf(window, "Channels").btnToWindow);
+    press(test::panelOf(window, "Channels").btnToWindow);
     EXPECT_TRUE(test::waitFor([] { return findWindow("Channels") != nullptr; }));
     EXPECT_EQ(window.channels.get_toplevel(), findWindow("Channels"));
-    EXPECT_EQ(seen(window), "OHC");
+    expectSeen(window, "OHC");
 
     test::present(window);
     test::click(window.arrangeButton);
     EXPECT_EQ(findWindow("Channels"), nullptr);
     EXPECT_EQ(window.channels.get_toplevel(), &window);
-    EXPECT_EQ(seen(window), "OHC");
+    expectSeen(window, "OHC");
 
-    test::click(test::panelOf(window, "Channels").btnToWindow);
+    press(test::panelOf(window, "Channels").btnToWindow);
     ASSERT_TRUE(test::waitFor([] { return findWindow("Channels") != nullptr; }));
     test::wait(200);
     test::closeByManager(*findWindow("Channels"));
-    EXPECT_TRUE(test::waitFor([&] { return seen(window) == "OH"; }));
+    expectSeen(window, "OH");
     test::present(window);
     test::click(window.arrangeButton);
-    EXPECT_EQ(seen(window), "OHC");
+    expectSeen(window, "OHC");
 }
 
 TEST_F(ViewerWindow, APanelIsDraggedByItsTitle) {
@@ -231,7 +243,7 @@ TEST_F(ViewerWindow, APanelIsDraggedByItsTitle) {
     test::releaseButton();
     EXPECT_TRUE(test::waitFor([&] { return panel.get_parent() == target.get_parent(); }));
     test::wait(300);
-    EXPECT_EQ(seen(window), "OHC");
+    expectSeen(window, "OHC");
     int below = 0;
     int ignored = 0;
     target.translate_coordinates(panel, 0, 0, ignored, below);
@@ -261,7 +273,7 @@ TEST_F(ViewerWindow, WhatIsDraggedInAPanelLeavesThePanelWhereItIs) {
     expectNoDrag(window.channels, "Channels", 60);
     test::clickTab(window, "Z plane");
     expectNoDrag(window.plane.diagram, "Z plane", 100);
-    EXPECT_EQ(seen(window), "OZC");
+    expectSeen(window, "OZC");
 }
 
 TEST_F(ViewerWindow, EndsTheProgramAlsoWhileAPanelFloats) {

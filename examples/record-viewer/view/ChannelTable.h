@@ -28,7 +28,8 @@ private:
         Gtk::TreeModelColumn<Glib::ustring> name;
         Gtk::TreeModelColumn<Glib::ustring> unit;
         Gtk::TreeModelColumn<Glib::ustring> values;
-        Gtk::TreeModelColumn<double> extent; ///< by which the values are sorted: largest deviation from 0 as recorded
+        Gtk::TreeModelColumn<double>
+            extent; ///< by which the values are sorted: largest deviation from 0 as recorded
     };
 
     void _addRow(int number, const std::string& name, const std::string& unit, const std::string& values,
