@@ -1,10 +1,12 @@
 #include "GalleryWindow.h"
 
+#include "common/Look.h"
 #include "common/TextZoom.h"
 
 namespace gallery {
 
 GalleryWindow::GalleryWindow(const std::string& firstPage) {
+    examples::installLook();
     set_title(words("Gallery of widgets", "Галерея виджетов"));
     set_default_size(1200, 760);
 

@@ -9,7 +9,8 @@
 
 namespace gallery {
 
-/// All pages, with their titles at the side. Ctrl with plus, minus, 0 or the wheel changes the size of the text.
+/// All pages, with their titles at the side. Ctrl with plus, minus, 0 or the wheel changes the size of the
+/// text.
 class GalleryWindow : public Gtk::Window {
 public:
     /// Shows the page of this name first, or the very first one if the name is empty.

@@ -1,6 +1,7 @@
 #include "Pictures.h"
 
 #include "PageView.h"
+#include "common/Look.h"
 
 #include <gtkmm.h>
 
@@ -15,6 +16,7 @@ constexpr gint64 twoFrames = 40000; // microseconds
 } // namespace
 
 Glib::RefPtr<Gdk::Pixbuf> paintPage(const Page& page) {
+    examples::installLook();
     Gtk::OffscreenWindow window;
     PageView view(page);
     view.set_size_request(pictureWidth, pictureHeight);

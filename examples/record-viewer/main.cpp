@@ -74,7 +74,8 @@ int show(const viewer::Arguments& arguments) {
         record = read(arguments);
 
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
-    viewer::MainWindow window(std::filesystem::path(arguments.file).filename().string());
+    viewer::MainWindow window(std::filesystem::path(arguments.file).filename().string(),
+                              viewer::WindowPlace::usualFile());
     int code = Success;
     if (record) {
         viewer::Impedances impedances = viewer::computeImpedances(*record);

@@ -270,3 +270,28 @@ TEST(WordsPage, JudgesWhatIsTyped) {
     typed->set_text("1f");
     EXPECT_TRUE(page.says("no number, whatever follows"));
 }
+
+TEST(ActionsPage, AddsRemovesAndGoesBackToThree) {
+    PageHost page("actions");
+    const auto channels = [&page] {
+        const std::vector<std::string> all = page.texts();
+        return std::count_if(all.begin(), all.end(),
+                             [](const std::string& text) { return text.rfind("Channel ", 0) == 0; });
+    };
+    const auto press = [&page](const char* styleClass) {
+        for (Gtk::Button* button : test::findAll<Gtk::Button>(*page.widget))
+            if (button->get_style_context()->has_class(styleClass))
+                button->clicked();
+        test::settle();
+    };
+    EXPECT_EQ(channels(), 3);
+    press("ToolAddButtonTransparent");
+    press("ToolAddButtonTransparent");
+    EXPECT_EQ(channels(), 5);
+    EXPECT_TRUE(page.says("Channel 5"));
+    for (int i = 0; i < 7; ++i)
+        press("ToolRemoveButtonTransparent");
+    EXPECT_EQ(channels(), 0);
+    page.press("Back to three");
+    EXPECT_EQ(channels(), 3);
+}

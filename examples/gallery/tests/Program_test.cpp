@@ -40,8 +40,8 @@ TEST_F(GalleryTest, ListsItsPagesWithoutADisplay) {
     const Result result = run("--list", "DISPLAY=");
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, "");
-    for (const char* name :
-         {"geometry", "canvas", "curves", "words", "markers", "overlays", "plot", "range", "frames"})
+    for (const char* name : {"geometry", "canvas", "curves", "words", "markers", "overlays", "plot", "range",
+                             "frames", "actions", "windows", "confirm", "panels", "dialogs", "about"})
         EXPECT_NE(("\n" + result.output).find("\n" + std::string(name) + "\t"), std::string::npos) << name;
     EXPECT_NE(result.output.find("plot\tPlot with a legend\n"), std::string::npos);
 }

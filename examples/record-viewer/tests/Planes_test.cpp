@@ -1,5 +1,6 @@
 // The pages of the hodograph and of the Z plane, used as a person uses them.
 #include "Circuit.h"
+#include "Panels.h"
 #include "Wheel.h"
 #include "reader/Reader.h"
 #include "support/Answer.h"
@@ -58,16 +59,7 @@ protected:
         _make();
     }
 
-    void clickTab(const std::string& label) {
-        for (int i = 0; i < window->notebook.get_n_pages(); ++i) {
-            Gtk::Widget& page = *window->notebook.get_nth_page(i);
-            if (window->notebook.get_tab_label_text(page) == label) {
-                test::click(*window->notebook.get_tab_label(page));
-                return;
-            }
-        }
-        FAIL() << "no page named " << label;
-    }
+    void clickTab(const std::string& title) { test::clickTab(*window, title); }
 
     Gtk::Scale& timeSlider() { return window->hodograph.hodograph.counterControls->getTimeSlider(); }
 
@@ -125,16 +117,16 @@ TEST_F(PlanesTest, ShowTheLoopOfTheFaultFirst) {
                   window->hodograph._getImpedances().trajectories.of(Loop::AE).front().time);
 }
 
-TEST_F(PlanesTest, APersonGoesThroughThePages) {
+TEST_F(PlanesTest, APersonGoesThroughTheTabsBesideTheOscillogram) {
     showDemo();
     present();
-    EXPECT_TRUE(window->page.get_mapped());
-    clickTab("Hodograph");
-    EXPECT_TRUE(test::waitFor([&] { return window->hodograph.get_mapped() && !window->page.get_mapped(); }));
+    EXPECT_TRUE(window->hodograph.get_mapped());
     clickTab("Z plane");
     EXPECT_TRUE(test::waitFor([&] { return window->plane.get_mapped() && !window->hodograph.get_mapped(); }));
-    clickTab("Oscillogram");
-    EXPECT_TRUE(test::waitFor([&] { return window->page.get_mapped() && !window->plane.get_mapped(); }));
+    clickTab("Hodograph");
+    EXPECT_TRUE(test::waitFor([&] { return window->hodograph.get_mapped() && !window->plane.get_mapped(); }));
+    EXPECT_TRUE(window->page.get_mapped());
+    EXPECT_TRUE(window->channels.get_mapped());
 }
 
 TEST_F(PlanesTest, ChoosingAnotherLoopChangesBothPages) {

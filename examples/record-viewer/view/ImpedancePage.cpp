@@ -28,6 +28,8 @@ ImpedancePage::ImpedancePage() : Gtk::Box(Gtk::ORIENTATION_VERTICAL) {
     pack_start(choices, Gtk::PACK_SHRINK);
     pack_start(stack, Gtk::PACK_EXPAND_WIDGET);
     pack_start(status, Gtk::PACK_SHRINK);
+    set_hexpand(true);
+    set_vexpand(true);
     show_all();
 }
 

@@ -2,6 +2,8 @@
 
 #include "Impedances.h"
 
+#include <ZelCommonView/presentation/ViewPresenter.h>
+
 #include <gtkmm/box.h>
 #include <gtkmm/comboboxtext.h>
 #include <gtkmm/label.h>
@@ -14,7 +16,7 @@ namespace viewer {
 /// What the pages of impedances have in common: the choice of the loop above, and below in words what one
 /// should know of the numbers. A sentence stands in place of the plane while there is nothing to show. It can
 /// be on the screen before there is a record.
-class ImpedancePage : public Gtk::Box {
+class ImpedancePage : public Gtk::Box, public Zel::IView {
 public:
     /// Another loop is shown, chosen by a person or by `chooseLoop`.
     sigc::signal<void, impedance::Loop> signalLoopChosen;

@@ -1,36 +1,64 @@
 #pragma once
 
+#include "ChannelTable.h"
 #include "HodographPage.h"
 #include "RecordPage.h"
+#include "WindowPlace.h"
 #include "ZPlanePage.h"
 
+#include <ZelCommonView/dialogs/AboutWindowActivatorPresenter.h>
 #include <ZelCommonView/presentation/ViewPresenter.h>
+#include <ZelCommonView/windows/PanelManagerPresenter.h>
+#include <ZelCommonView/windows/Window.h>
 
-#include <gtkmm/notebook.h>
-#include <gtkmm/window.h>
+#include <gtkmm/box.h>
+#include <gtkmm/button.h>
 
+#include <memory>
 #include <string>
 
 namespace viewer {
 
-/// The viewer's window: one record on three pages, which are empty until it is read. Both pages of impedances
-/// show the same loop, and the dot in the Z plane stands where the replay of the hodograph does. Ctrl with
-/// plus, minus, 0 or the wheel changes the size of the text.
-class MainWindow : public Gtk::Window, public Zel::IView {
+/// The viewer's window: one record in four panels, which are empty until it is read and which a person
+/// arranges by their titles, closes and brings back at will. Both panels of impedances show the same loop, and the dot in the
+/// Z plane stands where the replay of the hodograph does. F1 opens the help; Ctrl with plus, minus, 0 or the
+/// wheel changes the size of the text.
+class MainWindow : public Zel::Window, public Zel::IView {
 public:
-    explicit MainWindow(const std::string& title);
+    /// The title names the record's file. Place and size are kept in `placeFile`; an empty name keeps none.
+    explicit MainWindow(const std::string& file, const std::string& placeFile = "");
+    ~MainWindow() override;
 
     /// Shows a record in place of the former one, with what was computed from its samples before.
     void setRecord(record::Record record, Impedances impedances);
 
+    /// Puts the panels where they stand at first, those that were closed or float, too.
+    void arrangePanels();
+
     RecordPage page;
     HodographPage hodograph;
     ZPlanePage plane;
+    ChannelTable channels;
+
+protected:
+    void on_show() override;
+    void on_unmap() override;
 
 private:
+    void _composeBar();
     void _tiePages();
+    bool _onContentPress(GdkEventButton* event);
+    bool _onKeyPress(GdkEventKey* event);
+    void _onHelp();
+    void _onAbout();
 
-    Gtk::Notebook notebook;
+    std::unique_ptr<WindowPlace> place;                 ///< null if none is kept
+    std::unique_ptr<Zel::PanelManagerPresenter> panels; ///< never null
+    Zel::AboutWindowActivatorPresenter about;
+    Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 4};
+    Gtk::Button arrangeButton;
+    Gtk::Button helpButton;
+    Gtk::Button aboutButton;
 };
 
 } // namespace viewer

@@ -53,6 +53,8 @@ RecordPage::RecordPage() : Gtk::Box(Gtk::ORIENTATION_VERTICAL) {
     oscillograph.signalSeriesRangeChanged.connect(sigc::mem_fun(*this, &RecordPage::_showRange));
     pack_start(oscillograph, Gtk::PACK_EXPAND_WIDGET);
     pack_start(status, Gtk::PACK_SHRINK);
+    set_hexpand(true);
+    set_vexpand(true);
     show_all();
 }
 

@@ -3,6 +3,7 @@
 #include "Signals.h"
 
 #include <ZelCommonView/oscillogram/Oscillograph.h>
+#include <ZelCommonView/presentation/ViewPresenter.h>
 
 #include <gtkmm/box.h>
 #include <gtkmm/label.h>
@@ -13,7 +14,7 @@ namespace viewer {
 
 /// Shows one record on an oscillograph, with what was odd about it in a line at the bottom. It can be on the
 /// screen before there is a record.
-class RecordPage : public Gtk::Box {
+class RecordPage : public Gtk::Box, public Zel::IView {
 public:
     RecordPage();
     ~RecordPage() override;

@@ -80,6 +80,56 @@ inline const char* zPlane() {
     return ar[lng::index()];
 }
 
+inline const char* channels() {
+    static const char* const ar[] = {"Channels", "Каналы"};
+    return ar[lng::index()];
+}
+
+inline const char* channelNumber() {
+    static const char* const ar[] = {"No.", "№"};
+    return ar[lng::index()];
+}
+
+inline const char* channelName() {
+    static const char* const ar[] = {"Channel", "Канал"};
+    return ar[lng::index()];
+}
+
+inline const char* channelUnit() {
+    static const char* const ar[] = {"Unit", "Единица"};
+    return ar[lng::index()];
+}
+
+inline const char* channelValues() {
+    static const char* const ar[] = {"Values", "Значения"};
+    return ar[lng::index()];
+}
+
+inline const char* changes() {
+    static const char* const ar[] = {"changes: ", "изменений: "};
+    return ar[lng::index()];
+}
+
+inline const char* resetPanels() {
+    static const char* const ar[] = {"Reset panels", "Вернуть панели"};
+    return ar[lng::index()];
+}
+
+inline const char* help() {
+    static const char* const ar[] = {"Help", "Справка"};
+    return ar[lng::index()];
+}
+
+inline const char* programName() {
+    static const char* const ar[] = {"Record viewer", "Просмотр записей"};
+    return ar[lng::index()];
+}
+
+inline const char* helpFile() {
+    static const char* const ar[] = {"record-viewer-help-en.html", "record-viewer-help-ru.html"};
+    return ar[lng::index()];
+}
+
 inline const char* warnings() {
     static const char* const ar[] = {"warnings, the first", "предупреждений, первое"};
     return ar[lng::index()];

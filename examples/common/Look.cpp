@@ -1,0 +1,63 @@
+#include "Look.h"
+
+#include <gdkmm/screen.h>
+#include <gtkmm/cssprovider.h>
+#include <gtkmm/stylecontext.h>
+
+namespace examples {
+
+namespace {
+
+constexpr const char* sheet = R"css(
+.windowTitlebar {
+    padding: 2px 6px;
+    background: @theme_bg_color;
+    border-bottom: 1px solid @borders;
+}
+.windowTitlebar .title { font-weight: bold; }
+button.btnClose, button.btnMin, button.btnMax, button.btnUnMax, button.btnToWindow,
+button.ToolAddButtonTransparent, button.ToolRemoveButtonTransparent {
+    min-width: 16px;
+    min-height: 16px;
+    padding: 3px;
+    margin: 0 1px;
+    background-position: center;
+    background-repeat: no-repeat;
+    background-size: 16px 16px;
+}
+.windowTitlebar button.btnClose, .windowTitlebar button.btnMin, .windowTitlebar button.btnMax,
+.windowTitlebar button.btnUnMax { padding: 5px; }
+button.btnClose { background-image: -gtk-icontheme("window-close-symbolic"); }
+button.btnMin { background-image: -gtk-icontheme("window-minimize-symbolic"); }
+button.btnMax { background-image: -gtk-icontheme("window-maximize-symbolic"); }
+button.btnUnMax, button.btnToWindow { background-image: -gtk-icontheme("window-restore-symbolic"); }
+button.ToolAddButtonTransparent { background-image: -gtk-icontheme("list-add-symbolic"); }
+button.ToolRemoveButtonTransparent { background-image: -gtk-icontheme("list-remove-symbolic"); }
+
+.panel > overlay > * > box > box:first-child { background-color: alpha(@borders, 0.35); }
+.panelTabs > stack { background-color: @theme_bg_color; }
+.panel { border: 1px solid @borders; }
+.headerButtons button { min-width: 14px; min-height: 14px; padding: 2px 3px; }
+.demoboxPanel { background-color: @theme_selected_bg_color; }
+
+.aboutView > border { border: none; }
+.standartContentMargin { padding: 16px; }
+.aboutView .icon { margin-right: 12px; }
+.aboutView button.link { padding: 2px 0; }
+.recordValueMargin { margin-right: 6px; }
+.dialogButton { min-width: 72px; }
+)css";
+
+} // namespace
+
+void installLook() {
+    static const Glib::RefPtr<Gtk::CssProvider> provider = [] {
+        const auto made = Gtk::CssProvider::create();
+        made->load_from_data(sheet);
+        Gtk::StyleContext::add_provider_for_screen(Gdk::Screen::get_default(), made,
+                                                   GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+        return made;
+    }();
+}
+
+} // namespace examples
