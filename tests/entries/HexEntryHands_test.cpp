@@ -6,11 +6,14 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 using namespace Zel;
 
 const NumericRange usual(-1e16, 1e16, 1e-9);
+const NumericRange everything(-std::numeric_limits<double>::max(), std::numeric_limits<double>::max(), 1);
 const NumericRange byte(0, 255, 1);
 
 /// One window for all tests of a suite, since each takes its time to come up.
@@ -62,8 +65,9 @@ const Typing typings[] = {
     {usual, "1A", '0', {"01A", "10A", "1A0"}, true},
     {usual, "1A", 'f', {"f1A", "1fA", "1Af"}, true},
     {usual, "1A", 'F', {"F1A", "1FA", "1AF"}, true},
-    {usual, "FFFFFFF", '8', {"8FFFFFFF"}, false}, // a number too large to be read
-    {usual, "FFFFFFF", '7', {"7FFFFFFF"}, true},  // the largest one
+    {usual, "FFFFFFF", '8', {"8FFFFFFF"}, false},     // a number too large to be read
+    {usual, "FFFFFFF", '7', {"7FFFFFFF"}, true},      // the largest one
+    {everything, "FFFFFFF", '8', {"8FFFFFFF"}, true}, // without limits nobody reads it
     {byte, "10", '0', {"010"}, true},
     {byte, "10", '1', {"110", "110", "101"}, false}, // stands, but the cursor stays
     {{-5, -1, 1}, "", '0', {"0"}, false},

@@ -138,6 +138,17 @@ TEST(HexEntry, RefusesEveryCharacterThatIsNoHexadecimalDigit) {
     }
 }
 
+TEST(HexEntry, OtherHandlersNeverSeeARefusedText) {
+    HexEntry entry;
+    std::vector<std::string> seen;
+    entry.signal_changed().connect([&] { seen.push_back(entry.get_text()); }, false);
+    entry.set_text("1A");
+    entry.set_text("g");
+    for (const std::string& text : seen)
+        EXPECT_EQ(text, "1A");
+    EXPECT_FALSE(seen.empty());
+}
+
 TEST(HexEntry, NormalizesNothing) {
     EXPECT_EQ(HexEntry::_normalizeTextNumericSeparators("бюэ,<>'/1a"), "бюэ,<>'/1a");
 }
@@ -164,6 +175,7 @@ TEST(HexEntry, ATextOutOfRangeStandsAndOnlyTheCursorIsReset) {
         {{0, infinite, 1}, "7FFFFFFF", true},
         {{0, notANumber, 1}, "1", false},
         {{5, 4, 1}, "5", false},
+        {{-5, -0.5, 1}, "0", true},
         {{-infinite, infinite, 1}, "80000000", true}, // no limits at all, so the value isn't looked at
     };
     for (const Row& row : rows) {

@@ -510,6 +510,30 @@ TEST(NumericEntry, TheWheelIsSwallowedWithoutTheFocusAndWithAStepOfZero) {
     EXPECT_TRUE(reported.empty());
 }
 
+TEST(NumericEntry, TheWheelIsSwallowedAheadOfOtherHandlers) {
+    Form form;
+    int turns = 0;
+    form.entry.signal_scroll_event().connect(
+        [&](GdkEventScroll*) {
+            ++turns;
+            return false;
+        },
+        false);
+    form.scroll(GDK_SCROLL_UP);
+    EXPECT_EQ(turns, 0);
+}
+
+TEST(NumericEntry, OtherHandlersNeverSeeARefusedText) {
+    NumericEntry entry;
+    std::vector<std::string> seen;
+    entry.signal_changed().connect([&] { seen.push_back(entry.get_text()); }, false);
+    entry.set_text("1,5");
+    entry.set_text("x");
+    for (const std::string& text : seen)
+        EXPECT_EQ(text, "1.5");
+    EXPECT_FALSE(seen.empty());
+}
+
 TEST(NumericEntry, TheWheelReportsOnlyIfItShould) {
     Form form;
     form.focusEntry();
