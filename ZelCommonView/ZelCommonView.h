@@ -45,6 +45,9 @@
 #include <ZelCommonView/dialogs/ShellDescriptor.h>
 #include <ZelCommonView/dialogs/WaitingDialog.h>
 #include <ZelCommonView/dialogs/WaitingDialogPresenter.h>
+#include <ZelCommonView/entries/HexEntry.h>
+#include <ZelCommonView/entries/NumericConversion.h>
+#include <ZelCommonView/entries/NumericEntry.h>
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
 #include <ZelCommonView/fragments/FragmentableCollectionWidget.h>
 #include <ZelCommonView/fragments/FragmentableWidget.h>

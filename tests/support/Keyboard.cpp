@@ -26,6 +26,32 @@ HeldKey::~HeldKey() {
     moveKey(code, false);
 }
 
+AddedKey::AddedKey(unsigned int key) {
+    Display* display = gdk_x11_get_default_xdisplay();
+    int first = 0;
+    int last = 0;
+    XDisplayKeycodes(display, &first, &last);
+    code = last;
+    while (code > static_cast<unsigned int>(first) && XkbKeycodeToKeysym(display, code, 0, 0) != NoSymbol)
+        --code;
+    EXPECT_GT(code, static_cast<unsigned int>(first)) << "the keyboard has no key to spare";
+    KeySym symbol = key;
+    XChangeKeyboardMapping(display, code, 1, &symbol, 1);
+    XSync(display, False);
+}
+
+AddedKey::~AddedKey() {
+    Display* display = gdk_x11_get_default_xdisplay();
+    KeySym symbol = NoSymbol;
+    XChangeKeyboardMapping(display, code, 1, &symbol, 1);
+    XSync(display, False);
+}
+
+void AddedKey::press() {
+    moveKey(code, true);
+    moveKey(code, false);
+}
+
 void pressKey(unsigned int key) {
     Display* display = gdk_x11_get_default_xdisplay();
     const KeyCode code = XKeysymToKeycode(display, key);

@@ -25,4 +25,20 @@ private:
     unsigned int code; ///< of the display's keyboard
 };
 
+/// Gives the keyboard one more key while it lives, such as GDK_KEY_Cyrillic_be; other layouts are made of
+/// such.
+class AddedKey {
+public:
+    explicit AddedKey(unsigned int key);
+    ~AddedKey();
+    AddedKey(const AddedKey&) = delete;
+    AddedKey& operator=(const AddedKey&) = delete;
+
+    /// Presses and releases it.
+    void press();
+
+private:
+    unsigned int code = 0; ///< of the display's keyboard
+};
+
 } // namespace test
