@@ -18,12 +18,13 @@ set(ZEL_TEST_ENVIRONMENT
 add_custom_target(zel-thread-tests)
 
 # zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN] [HANDS]
-#              [OWN_DISPLAY])
+#              [OWN_DISPLAY] [LOCALES names...])
 # makes the program folder.file. PLAIN is for tests that need neither GTK nor a display; HANDS for those that move the
 # real pointer or press real keys, which must not run beside each other. OWN_DISPLAY is for those that show windows all
-# the time without hands: they would get under the pointer of the others.
+# the time without hands: they would get under the pointer of the others. LOCALES, such as de_DE.UTF-8, runs the program
+# once more in each of these locales, as the test folder.file@locale; not for PLAIN ones.
 function(zel_add_test folder file)
-  cmake_parse_arguments(TEST "PLAIN;HANDS;OWN_DISPLAY" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  cmake_parse_arguments(TEST "PLAIN;HANDS;OWN_DISPLAY" "" "SOURCES;LIBRARIES;LABELS;LOCALES" ${ARGN})
   get_filename_component(stem ${file} NAME_WE)
   string(REGEX REPLACE "_test$" "" stem ${stem})
   set(target ${folder}.${stem})
@@ -45,17 +46,28 @@ function(zel_add_test folder file)
   if(ZEL_SANITIZE)
     set(timeout 900)
   endif()
+  set(command ${target})
   if(TEST_OWN_DISPLAY)
-    add_test(NAME ${target} COMMAND xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" $<TARGET_FILE:${target}>)
-  else()
-    add_test(NAME ${target} COMMAND ${target})
+    set(command xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" $<TARGET_FILE:${target}>)
   endif()
-  set_tests_properties(${target} PROPERTIES ENVIRONMENT "${ZEL_TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}"
-                                                  TIMEOUT ${timeout})
+  foreach(locale "" ${TEST_LOCALES})
+    set(name ${target})
+    set(environment ${ZEL_TEST_ENVIRONMENT})
+    if(locale)
+      string(APPEND name "@${locale}")
+      list(APPEND environment ZEL_TEST_LOCALE=${locale})
+    endif()
+    add_test(NAME ${name} COMMAND ${command})
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" LABELS "${TEST_LABELS}" TIMEOUT ${timeout})
+    if(locale)
+      # The machine may have no way to make the locale.
+      set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77)
+    endif()
+    if(TEST_HANDS)
+      set_tests_properties(${name} PROPERTIES RESOURCE_LOCK pointer)
+    endif()
+  endforeach()
   if("threads" IN_LIST TEST_LABELS)
     add_dependencies(zel-thread-tests ${target})
-  endif()
-  if(TEST_HANDS)
-    set_tests_properties(${target} PROPERTIES RESOURCE_LOCK pointer)
   endif()
 endfunction()
