@@ -7,7 +7,8 @@ namespace Zel {
 
 /// An IPv4 address in digits and points. It keeps letters and most punctuation from being typed and tells
 /// after each key whether the text is a whole address; one that isn't stands as it is. A number of an address
-/// may be written with leading zeros in up to three digits.
+/// may be written with leading zeros in up to three digits, and a line end behind it, as pasting may bring
+/// it, counts for nothing.
 ///
 /// Keys without a character, such as the arrows, Home, End and the function keys, are not for it, which is
 /// meant: the cursor is placed by the pointer. Such a key goes on to the window, where an arrow moves the

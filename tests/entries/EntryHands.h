@@ -1,0 +1,163 @@
+/// What the tests of entries share: an entry on the screen between two others, and keys that go to a widget
+/// straight away, without the display.
+#pragma once
+
+#include "support/Hands.h"
+#include "support/Keyboard.h"
+
+#include <gtest/gtest.h>
+#include <gtkmm.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace test {
+
+/// An entry on the screen, with one before and one behind it. The first has the focus.
+template <typename TEntry>
+struct EntryOnScreen : testing::Test {
+    /// What the display may take to hand over a clipboard, in milliseconds.
+    static constexpr int pasteTime = 100;
+
+    EntryOnScreen() {
+        for (Gtk::Widget* const widget :
+             {static_cast<Gtk::Widget*>(&before), widgetOfEntry(), static_cast<Gtk::Widget*>(&behind)})
+            box.pack_start(*widget, Gtk::PACK_SHRINK);
+        window.set_default_size(400, 300);
+        window.add(box);
+        before.set_text("before");
+        test::present(window);
+        before.grab_focus();
+        test::settle();
+    }
+
+    Gtk::Widget* widgetOfEntry() { return owned.get(); }
+
+    /// Gives the entry the focus and waits for what comes of it.
+    void focus() {
+        owned->grab_focus();
+        test::settle();
+    }
+
+    void key(unsigned int value) {
+        test::pressKey(value);
+        test::settle();
+    }
+
+    /// A key with another one held.
+    void keyWith(unsigned int held, unsigned int value) {
+        {
+            const HeldKey hold(held);
+            test::pressKey(value);
+            test::settle();
+        }
+        test::settle();
+    }
+
+    void typeText(const std::string& text) {
+        test::type(text);
+        test::settle();
+    }
+
+    /// Puts a text on the clipboard as another program does, and pastes it with the keyboard.
+    void pasteByKeys(const std::string& text) {
+        Gtk::Clipboard::get()->set_text(text);
+        keyWith(GDK_KEY_Control_L, GDK_KEY_v);
+        test::wait(pasteTime);
+    }
+
+    /// Selects a text with the pointer elsewhere, and pastes it with the middle button at a place of the
+    /// entry.
+    void pasteByPointer(const std::string& text, int x) {
+        Gtk::Clipboard::get(GDK_SELECTION_PRIMARY)->set_text(text);
+        test::click(*owned, x, owned->get_allocated_height() / 2, 2);
+        test::wait(pasteTime);
+    }
+
+    /// Where the cursor stands before a character, in the entry's pixels.
+    int xOf(int character) {
+        int x = 0;
+        int y = 0;
+        owned->get_layout_offsets(x, y);
+        const auto layout = owned->get_layout();
+        const std::string text = layout->get_text();
+        const char* const place = g_utf8_offset_to_pointer(text.c_str(), character);
+        const auto rectangle = layout->index_to_pos(static_cast<int>(place - text.c_str()));
+        return x + rectangle.get_x() / Pango::SCALE;
+    }
+
+    /// The selected characters, from and to; both the cursor where nothing is selected.
+    std::pair<int, int> selection() {
+        int from = 0;
+        int to = 0;
+        if (!owned->get_selection_bounds(from, to))
+            from = to = owned->get_position();
+        return {from, to};
+    }
+
+    Gtk::Window window;
+    Gtk::Box box{Gtk::ORIENTATION_VERTICAL};
+    Gtk::Entry before;
+    std::unique_ptr<TEntry> owned = std::make_unique<TEntry>();
+    TEntry& entry = *owned;
+    Gtk::Entry behind;
+};
+
+/// What the display says that a key types, with the control key or without.
+inline std::string stringOf(unsigned int key, unsigned int state = 0) {
+    if (key == GDK_KEY_Return || key == GDK_KEY_KP_Enter)
+        return "\r";
+    const gunichar character = gdk_keyval_to_unicode(key);
+    if (character == 0)
+        return key == GDK_KEY_Escape ? "\033" : key == GDK_KEY_BackSpace ? "\b" : "";
+    if (state & GDK_CONTROL_MASK)
+        return std::string(1, static_cast<char>(character & 0x1f));
+    char utf8[7] = {};
+    g_unichar_to_utf8(character, utf8);
+    return utf8;
+}
+
+/// A press or a release of a key, straight to the widget. `string` is what the key types.
+inline bool sendKeyEvent(Gtk::Widget& widget, bool isPress, unsigned int key, unsigned int state,
+                         const char* string) {
+    GdkEvent* const event = gdk_event_new(isPress ? GDK_KEY_PRESS : GDK_KEY_RELEASE);
+    event->key.window = static_cast<GdkWindow*>(g_object_ref(widget.get_window()->gobj()));
+    event->key.send_event = true;
+    event->key.state = state;
+    event->key.keyval = key;
+    g_free(event->key.string);
+    event->key.string = g_strdup(string);
+    event->key.length = string ? static_cast<int>(std::strlen(string)) : 0;
+    gdk_event_set_device(event,
+                         gdk_seat_get_keyboard(gdk_display_get_default_seat(gdk_display_get_default())));
+    const bool isTaken = gtk_widget_event(widget.gobj(), event);
+    gdk_event_free(event);
+    return isTaken;
+}
+
+/// Presses and releases a key straight to the widget. Returns whether the press was taken.
+inline bool sendKey(Gtk::Widget& widget, unsigned int key, unsigned int state = 0) {
+    const std::string string = stringOf(key, state);
+    const bool isTaken = sendKeyEvent(widget, true, key, state, string.c_str());
+    sendKeyEvent(widget, false, key, state, string.c_str());
+    return isTaken;
+}
+
+/// The focus comes or goes, straight to the widget.
+inline void sendFocus(Gtk::Widget& widget, bool isIn) {
+    GdkEvent* const event = gdk_event_new(GDK_FOCUS_CHANGE);
+    event->focus_change.window = static_cast<GdkWindow*>(g_object_ref(widget.get_window()->gobj()));
+    event->focus_change.in = isIn;
+    gtk_widget_send_focus_change(widget.gobj(), event);
+    gdk_event_free(event);
+}
+
+/// Lets what waits for its turn have it, without waiting for anything new.
+inline void runPending() {
+    for (int i = 0; i < 10 && Gtk::Main::events_pending(); ++i)
+        Gtk::Main::iteration(false);
+}
+
+} // namespace test
