@@ -10,6 +10,8 @@ DateEntry::DateEntry() {
     set_icon_from_icon_name("x-office-calendar", Gtk::ENTRY_ICON_SECONDARY);
     signal_icon_press().connect(sigc::mem_fun(*this, &DateEntry::_onCalendarClick), false);
     calendar.signal_day_selected().connect(sigc::mem_fun(*this, &DateEntry::_onCalendarDateChanged), false);
+    // The focus comes back to the entry with the text of the chosen day, which then is nothing new any more.
+    popover.signal_closed().connect(sigc::mem_fun(*this, &DateEntry::_onSignalValueChanged), false);
     box.set_orientation(Gtk::ORIENTATION_VERTICAL);
     box.pack_start(calendar, Gtk::PACK_EXPAND_WIDGET, 0);
     box.show_all();

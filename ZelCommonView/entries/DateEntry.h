@@ -10,11 +10,11 @@
 namespace Zel {
 
 /// A date as a text, with a calendar that an icon at the end of the line opens and closes. A day that is
-/// chosen there replaces the text by day, month and year, such as "07:03:2024", and leaves the calendar open.
+/// chosen there replaces the text by day, month and year, such as "07:03:2024", and leaves the calendar open;
+/// the edit is finished and reported when the calendar closes.
 ///
-/// The text can be edited freely and isn't checked, and the calendar doesn't follow it. Choosing a day is an
-/// edit like any other: it is reported when the edit is finished. The calendar carries the style class
-/// "DateEntryCalendar".
+/// The text can be edited freely and isn't checked, and the calendar doesn't follow it. The calendar carries
+/// the style class "DateEntryCalendar".
 class ZEL_API DateEntry : public StringEntry {
 public:
     DateEntry();

@@ -41,11 +41,13 @@ protected:
     bool on_focus_in_event(GdkEventFocus* event) override;
     bool on_focus_out_event(GdkEventFocus* event) override;
 
+    /// An edit is finished: reports the text if it differs from the last one and if anyone listens.
+    void _onSignalValueChanged();
+
 private:
     void _onChanged();
     bool _keyPress(GdkEventKey* event);
     bool _buttonPress(GdkEventButton* event);
-    void _onSignalValueChanged();
     bool _selectAll();
     bool _unselect();
 
