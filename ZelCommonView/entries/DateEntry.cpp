@@ -11,7 +11,8 @@ DateEntry::DateEntry() {
     signal_icon_press().connect(sigc::mem_fun(*this, &DateEntry::_onCalendarClick), false);
     calendar.signal_day_selected().connect(sigc::mem_fun(*this, &DateEntry::_onCalendarDateChanged), false);
     // The focus comes back to the entry with the text of the chosen day, which then is nothing new any more.
-    popover.signal_closed().connect(sigc::mem_fun(*this, &DateEntry::_onSignalValueChanged), false);
+    closedConnection =
+        popover.signal_closed().connect(sigc::mem_fun(*this, &DateEntry::_onSignalValueChanged), false);
     box.set_orientation(Gtk::ORIENTATION_VERTICAL);
     box.pack_start(calendar, Gtk::PACK_EXPAND_WIDGET, 0);
     box.show_all();
@@ -21,7 +22,10 @@ DateEntry::DateEntry() {
     show_all();
 }
 
-DateEntry::~DateEntry() = default;
+DateEntry::~DateEntry() {
+    // An open calendar closes with the entry, which is no edit.
+    closedConnection.disconnect();
+}
 
 void DateEntry::_onCalendarClick(Gtk::EntryIconPosition position, const GdkEventButton*) {
     if (position == Gtk::ENTRY_ICON_SECONDARY && !popover.get_visible()) {

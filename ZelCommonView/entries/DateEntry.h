@@ -29,6 +29,7 @@ private:
     Gtk::Box box;
     Gtk::Popover popover;
     Gtk::Calendar calendar;
+    sigc::connection closedConnection;
 };
 
 } // namespace Zel

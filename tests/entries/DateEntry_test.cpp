@@ -22,7 +22,7 @@ struct DateEntryOnScreen : test::EntryOnScreen<DateEntry> {
 
     void expectOpen(bool expected) {
         EXPECT_TRUE(test::waitFor([&] { return isOpen() == expected; }, 1000)) << expected;
-        test::wait(300);
+        test::wait(100);
         EXPECT_EQ(isOpen(), expected);
     }
 

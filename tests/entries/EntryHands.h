@@ -9,11 +9,15 @@
 #include <gtkmm.h>
 
 #include <cstring>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace test {
+
+/// Where a selection begins and ends, in characters.
+using Place = std::pair<int, int>;
 
 /// An entry on the screen, with one before and one behind it. The first has the focus.
 template <typename TEntry>
@@ -89,7 +93,7 @@ struct EntryOnScreen : testing::Test {
     }
 
     /// The selected characters, from and to; both the cursor where nothing is selected.
-    std::pair<int, int> selection() {
+    Place selection() {
         int from = 0;
         int to = 0;
         if (!owned->get_selection_bounds(from, to))
@@ -119,6 +123,21 @@ inline std::string stringOf(unsigned int key, unsigned int state = 0) {
     return utf8;
 }
 
+/// The place of a key on the keyboard, which Gtk finds its key bindings by; 0 if it isn't there.
+inline guint16 codeOf(unsigned int key) {
+    static std::map<unsigned int, guint16> known;
+    const auto found = known.find(key);
+    if (found != known.end())
+        return found->second;
+    GdkKeymapKey* keys = nullptr;
+    int count = 0;
+    gdk_keymap_get_entries_for_keyval(gdk_keymap_get_for_display(gdk_display_get_default()), key, &keys,
+                                      &count);
+    const guint16 code = count > 0 ? static_cast<guint16>(keys[0].keycode) : guint16{0};
+    g_free(keys);
+    return known[key] = code;
+}
+
 /// A press or a release of a key, straight to the widget. `string` is what the key types.
 inline bool sendKeyEvent(Gtk::Widget& widget, bool isPress, unsigned int key, unsigned int state,
                          const char* string) {
@@ -127,6 +146,7 @@ inline bool sendKeyEvent(Gtk::Widget& widget, bool isPress, unsigned int key, un
     event->key.send_event = true;
     event->key.state = state;
     event->key.keyval = key;
+    event->key.hardware_keycode = codeOf(key);
     g_free(event->key.string);
     event->key.string = g_strdup(string);
     event->key.length = string ? static_cast<int>(std::strlen(string)) : 0;

@@ -11,7 +11,7 @@ namespace {
 using Zel::TimeEntry;
 using Told = std::pair<bool, std::string>;
 using AllTold = std::vector<Told>;
-using Place = std::pair<int, int>;
+using test::Place;
 
 struct MenuView : Gtk::Menu, Zel::IView {
     MenuView() {
@@ -452,8 +452,9 @@ TEST_F(TimeEntryOnScreen, TypingFillsPartAfterPart) {
 
 TEST_F(TimeEntryOnScreen, AColonGoesOnToTheNextPart) {
     start("0:0:0", 0, 1);
-    typeText("7:8:9:1");
-    EXPECT_EQ(entry.getData(), "7:8:19");
+    typeText("7:8:9:");
+    EXPECT_EQ(entry.getData(), "7:8:9");
+    EXPECT_EQ(selection(), Place(5, 5));
     EXPECT_EQ(told.back(), Told(true, "7:8:9"));
 }
 
