@@ -138,11 +138,27 @@ inline guint16 codeOf(unsigned int key) {
     return known[key] = code;
 }
 
+/// Hands an event to the widget, past its window. Gtk refuses events of a widget that isn't realized; such a
+/// one gets the signal alone.
+inline bool deliver(Gtk::Widget& widget, GdkEvent* event, const char* signal) {
+    if (widget.get_realized())
+        return gtk_widget_event(widget.gobj(), event);
+    gboolean isTaken = false;
+    g_signal_emit_by_name(widget.gobj(), signal, event, &isTaken);
+    return isTaken;
+}
+
+/// The window that events of the widget come from.
+inline GdkWindow* windowOf(Gtk::Widget& widget) {
+    Gtk::Widget* const realized = widget.get_realized() ? &widget : widget.get_toplevel();
+    return static_cast<GdkWindow*>(g_object_ref(realized->get_window()->gobj()));
+}
+
 /// A press or a release of a key, straight to the widget. `string` is what the key types.
 inline bool sendKeyEvent(Gtk::Widget& widget, bool isPress, unsigned int key, unsigned int state,
                          const char* string) {
     GdkEvent* const event = gdk_event_new(isPress ? GDK_KEY_PRESS : GDK_KEY_RELEASE);
-    event->key.window = static_cast<GdkWindow*>(g_object_ref(widget.get_window()->gobj()));
+    event->key.window = windowOf(widget);
     event->key.send_event = true;
     event->key.state = state;
     event->key.keyval = key;
@@ -152,7 +168,7 @@ inline bool sendKeyEvent(Gtk::Widget& widget, bool isPress, unsigned int key, un
     event->key.length = string ? static_cast<int>(std::strlen(string)) : 0;
     gdk_event_set_device(event,
                          gdk_seat_get_keyboard(gdk_display_get_default_seat(gdk_display_get_default())));
-    const bool isTaken = gtk_widget_event(widget.gobj(), event);
+    const bool isTaken = deliver(widget, event, isPress ? "key-press-event" : "key-release-event");
     gdk_event_free(event);
     return isTaken;
 }
@@ -168,15 +184,18 @@ inline bool sendKey(Gtk::Widget& widget, unsigned int key, unsigned int state = 
 /// The focus comes or goes, straight to the widget.
 inline void sendFocus(Gtk::Widget& widget, bool isIn) {
     GdkEvent* const event = gdk_event_new(GDK_FOCUS_CHANGE);
-    event->focus_change.window = static_cast<GdkWindow*>(g_object_ref(widget.get_window()->gobj()));
+    event->focus_change.window = windowOf(widget);
     event->focus_change.in = isIn;
-    gtk_widget_send_focus_change(widget.gobj(), event);
+    if (widget.get_realized())
+        gtk_widget_send_focus_change(widget.gobj(), event);
+    else
+        deliver(widget, event, isIn ? "focus-in-event" : "focus-out-event");
     gdk_event_free(event);
 }
 
 /// Lets what waits for its turn have it, without waiting for anything new.
 inline void runPending() {
-    for (int i = 0; i < 10 && Gtk::Main::events_pending(); ++i)
+    for (int i = 0; i < 500 && Gtk::Main::events_pending(); ++i)
         Gtk::Main::iteration(false);
 }
 
