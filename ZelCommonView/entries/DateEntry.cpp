@@ -1,5 +1,7 @@
 #include <ZelCommonView/entries/DateEntry.h>
 
+#include <gtk/gtk.h>
+
 #include <cstdio>
 
 namespace Zel {
@@ -25,6 +27,12 @@ DateEntry::DateEntry() {
 DateEntry::~DateEntry() {
     // An open calendar closes with the entry, which is no edit.
     closedConnection.disconnect();
+}
+
+void DateEntry::on_hierarchy_changed(Gtk::Widget* previousToplevel) {
+    StringEntry::on_hierarchy_changed(previousToplevel);
+    const bool isOffscreen = GTK_IS_OFFSCREEN_WINDOW(gtk_widget_get_toplevel(Gtk::Widget::gobj()));
+    gtk_popover_set_relative_to(popover.gobj(), isOffscreen ? nullptr : Gtk::Widget::gobj());
 }
 
 void DateEntry::_onCalendarClick(Gtk::EntryIconPosition position, const GdkEventButton*) {

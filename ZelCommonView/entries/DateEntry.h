@@ -20,6 +20,11 @@ public:
     DateEntry();
     ~DateEntry() override;
 
+protected:
+    /// Takes the calendar off while the entry stands in a `Gtk::OffscreenWindow`, which shows none and where
+    /// Gtk would complain of it at each paint.
+    void on_hierarchy_changed(Gtk::Widget* previousToplevel) override;
+
 private:
     void _onCalendarClick(Gtk::EntryIconPosition position, const GdkEventButton* event);
     void _onCalendarDateChanged();

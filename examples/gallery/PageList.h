@@ -12,4 +12,5 @@ PAGE(Frames, "frames", "Frames and separators", "Рамки и разделит�
 PAGE(Hodograph, "hodograph", "Hodograph", "Годограф")
 PAGE(Plane, "plane", "Plane of figures", "Плоскость фигур")
 PAGE(Texts, "texts", "Size of texts", "Размер текста")
+PAGE(Typed, "typed", "Texts, dates and times", "Тексты, даты и время")
 PAGE(Words, "words", "Words and numbers", "Слова и числа")

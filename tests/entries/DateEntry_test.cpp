@@ -104,6 +104,27 @@ TEST(DateEntry, TheCalendarDoesNotFollowTheText) {
     }
 }
 
+TEST(DateEntry, CanBePaintedWithoutAScreenWhereverItStands) {
+    Gtk::Grid grid;
+    Gtk::Label label("date");
+    DateEntry entry;
+    grid.attach(label, 0, 0);
+    grid.attach(entry, 1, 1);
+    for (int i = 0; i < 2; ++i) {
+        {
+            test::OffscreenHost host(grid, 300, 100);
+            entry._onCalendarClick(Gtk::ENTRY_ICON_SECONDARY, nullptr);
+            EXPECT_TRUE(entry.popover.get_visible());
+            entry._updateDateEntry(2024, 2, 7);
+            EXPECT_TRUE(host.picture());
+            entry._onCalendarClick(Gtk::ENTRY_ICON_SECONDARY, nullptr);
+            EXPECT_FALSE(entry.popover.get_visible());
+        }
+        // Elsewhere it has its calendar again.
+        EXPECT_EQ(entry.popover.get_relative_to(), &entry);
+    }
+}
+
 TEST(DateEntry, AThousandLivesLeaveNothingBehind) {
     test::Finalised finalised;
     for (int i = 0; i < 1000; ++i) {
