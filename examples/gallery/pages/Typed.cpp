@@ -30,6 +30,8 @@ public:
 
         text.set_text(words("It grows", "Растёт"));
         address.set_text("192.168.1.1");
+        // The icon takes its place from the text, so the date doesn't go by the length of that.
+        date.setAutosize(false);
         date.set_text("07:03:2024");
         time.setData("12:34:56");
         verdict.set_text(words("an address", "адрес"));
