@@ -20,9 +20,8 @@ public:
     TimeEntry();
     ~TimeEntry() override;
 
-    /// Sets the text, which is judged and reported like what a person types: what is no time leaves the last
-    /// one, or none but the time that stood there before if a part was empty. No more than 8 characters
-    /// count.
+    /// Sets the text, which is judged and reported like what a person types: what is no time brings the last
+    /// valid one back, and a text with an empty part stands. No more than 8 characters count.
     void setData(std::string text) override;
     /// The text as it stands, which may have an empty part.
     std::string getData() override;

@@ -252,6 +252,15 @@ TEST_F(TimeEntryTest, TheSameTextAgainIsNoChange) {
     EXPECT_EQ(told, AllTold{});
 }
 
+TEST_F(TimeEntryTest, IsJudgedBeforeOthersHearOfTheChange) {
+    std::vector<std::string> seen;
+    entry->signal_changed().connect([&] { seen.push_back(entry->getData()); }, false);
+    entry->setData("24:0:0");
+    EXPECT_FALSE(seen.empty());
+    for (const std::string& text : seen)
+        EXPECT_EQ(text, "0:0:0");
+}
+
 TEST_F(TimeEntryTest, TheSignalOfTheInterfaceIsNotEmitted) {
     int count = 0;
     entry->signalTextChanged.connect([&](bool, const std::string&) { ++count; });
