@@ -45,9 +45,14 @@
 #include <ZelCommonView/dialogs/ShellDescriptor.h>
 #include <ZelCommonView/dialogs/WaitingDialog.h>
 #include <ZelCommonView/dialogs/WaitingDialogPresenter.h>
+#include <ZelCommonView/entries/DateEntry.h>
 #include <ZelCommonView/entries/HexEntry.h>
+#include <ZelCommonView/entries/IStringView.h>
+#include <ZelCommonView/entries/IpEntry.h>
 #include <ZelCommonView/entries/NumericConversion.h>
 #include <ZelCommonView/entries/NumericEntry.h>
+#include <ZelCommonView/entries/StringEntry.h>
+#include <ZelCommonView/entries/TimeEntry.h>
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
 #include <ZelCommonView/fragments/FragmentableCollectionWidget.h>
 #include <ZelCommonView/fragments/FragmentableWidget.h>

@@ -22,7 +22,8 @@ add_custom_target(zel-thread-tests)
 # makes the program folder.file. PLAIN is for tests that need neither GTK nor a display; HANDS for those that move the
 # real pointer or press real keys, which must not run beside each other. OWN_DISPLAY is for those that show windows all
 # the time without hands: they would get under the pointer of the others. LOCALES, such as de_DE.UTF-8, runs the program
-# once more in each of these locales, as the test folder.file@locale; not for PLAIN ones. LONG is for those of millions
+# once more in each of these locales, as the test folder.file@locale; not for PLAIN ones, and not under the sanitizers,
+# to which a locale is nothing new. LONG is for those of millions
 # of operations: the address sanitizer notes where memory was taken the quick way there, eight times as fast and less
 # exact.
 function(zel_add_test folder file)
@@ -49,6 +50,9 @@ function(zel_add_test folder file)
     set(timeout 900)
   endif()
   set(command ${target})
+  if(ZEL_SANITIZE)
+    set(TEST_LOCALES)
+  endif()
   if(TEST_OWN_DISPLAY)
     set(command xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" $<TARGET_FILE:${target}>)
   endif()

@@ -37,10 +37,13 @@ void wait(int milliseconds) {
     waitFor([] { return false; }, milliseconds);
 }
 
+// What hands do waits for the display, so that the events are there when the main loop runs, however busy the
+// machine is.
+
 void movePointer(int screenX, int screenY) {
     Display* display = gdk_x11_get_default_xdisplay();
     XTestFakeMotionEvent(display, -1, screenX, screenY, CurrentTime);
-    XFlush(display);
+    XSync(display, False);
 }
 
 namespace {
@@ -57,7 +60,7 @@ void getOrigin(Gtk::Widget& widget, int& x, int& y) {
 void sendButton(unsigned int button, bool isPressed) {
     Display* display = gdk_x11_get_default_xdisplay();
     XTestFakeButtonEvent(display, button, isPressed, CurrentTime);
-    XFlush(display);
+    XSync(display, False);
 }
 
 } // namespace

@@ -13,7 +13,7 @@ namespace {
 void moveKey(unsigned int code, bool isDown) {
     Display* display = gdk_x11_get_default_xdisplay();
     XTestFakeKeyEvent(display, code, isDown, CurrentTime);
-    XFlush(display);
+    XSync(display, False);
 }
 
 } // namespace
@@ -64,7 +64,7 @@ void pressKey(unsigned int key) {
     XTestFakeKeyEvent(display, code, False, CurrentTime);
     if (needsShift)
         XTestFakeKeyEvent(display, shift, False, CurrentTime);
-    XFlush(display);
+    XSync(display, False);
 }
 
 void type(const std::string& text) {

@@ -1,0 +1,7 @@
+#include <ZelCommonView/entries/IStringView.h>
+
+namespace ZelTree {
+
+IStringView::~IStringView() = default;
+
+} // namespace ZelTree
