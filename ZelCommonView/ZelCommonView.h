@@ -1,6 +1,20 @@
 /// The whole library in one include.
 #pragma once
 
+#include <ZelCommonView/collections/CollectionBoxView.h>
+#include <ZelCommonView/collections/EmptyViewPresenter.h>
+#include <ZelCommonView/collections/LazyPagedContentPresenter.h>
+#include <ZelCommonView/collections/PagedContentView.h>
+#include <ZelCommonView/collections/RemoveCellRenderer.h>
+#include <ZelCommonView/collections/SelectionManagerPresenter.h>
+#include <ZelCommonView/collections/SelectionManagerView.h>
+#include <ZelCommonView/collections/SelectionPresenter.h>
+#include <ZelCommonView/collections/SelectionView.h>
+#include <ZelCommonView/collections/TableCellPresenter.h>
+#include <ZelCommonView/collections/TableCellView.h>
+#include <ZelCommonView/collections/TableCollectionView.h>
+#include <ZelCommonView/collections/VirtualizationListColumn.h>
+#include <ZelCommonView/collections/VirtualizationListView.h>
 #include <ZelCommonView/common/ApproximateLogic.h>
 #include <ZelCommonView/common/ApproximateTolerance.h>
 #include <ZelCommonView/common/AutoResetEvent.h>
