@@ -1,6 +1,20 @@
 /// The whole library in one include.
 #pragma once
 
+#include <ZelCommonView/collections/CollectionBoxView.h>
+#include <ZelCommonView/collections/EmptyViewPresenter.h>
+#include <ZelCommonView/collections/LazyPagedContentPresenter.h>
+#include <ZelCommonView/collections/PagedContentView.h>
+#include <ZelCommonView/collections/RemoveCellRenderer.h>
+#include <ZelCommonView/collections/SelectionManagerPresenter.h>
+#include <ZelCommonView/collections/SelectionManagerView.h>
+#include <ZelCommonView/collections/SelectionPresenter.h>
+#include <ZelCommonView/collections/SelectionView.h>
+#include <ZelCommonView/collections/TableCellPresenter.h>
+#include <ZelCommonView/collections/TableCellView.h>
+#include <ZelCommonView/collections/TableCollectionView.h>
+#include <ZelCommonView/collections/VirtualizationListColumn.h>
+#include <ZelCommonView/collections/VirtualizationListView.h>
 #include <ZelCommonView/common/ApproximateLogic.h>
 #include <ZelCommonView/common/ApproximateTolerance.h>
 #include <ZelCommonView/common/AutoResetEvent.h>
@@ -19,6 +33,19 @@
 #include <ZelCommonView/common/PointerNamedConnectionsDispatcher.h>
 #include <ZelCommonView/common/RectangleF.h>
 #include <ZelCommonView/common/StringHelper.h>
+#include <ZelCommonView/containers/ContainerView.h>
+#include <ZelCommonView/containers/Decorator.h>
+#include <ZelCommonView/containers/ExtendedCheckView.h>
+#include <ZelCommonView/containers/ExtendedExpander.h>
+#include <ZelCommonView/containers/ReadOnlySwitchableContainer.h>
+#include <ZelCommonView/containers/ReadOnlySwitchableContainerPresenter.h>
+#include <ZelCommonView/containers/RefreshSpinner.h>
+#include <ZelCommonView/containers/ResultStateView.h>
+#include <ZelCommonView/containers/ScrollAreaPresenter.h>
+#include <ZelCommonView/containers/ScrollAreaView.h>
+#include <ZelCommonView/containers/SensitiveHidingPanel.h>
+#include <ZelCommonView/containers/SharedSizeGroup.h>
+#include <ZelCommonView/containers/SwitchableContainer.h>
 #include <ZelCommonView/diagrams/CircleDrawer.h>
 #include <ZelCommonView/diagrams/Figure.h>
 #include <ZelCommonView/diagrams/FigureDrawer.h>

@@ -2,10 +2,11 @@
 
 #include <ZelCommonView/common/Export.h>
 
-#include <gtkmm/enums.h>
+#include <gtkmm/container.h>
+
+#include <vector>
 
 namespace Gtk {
-class Widget;
 class Window;
 } // namespace Gtk
 
@@ -40,6 +41,19 @@ ZEL_API IView* getIView(Gtk::Widget* widget);
 /// The window that the view is or stands in. Null for null, for a view that is no widget and for one that is
 /// not in a window yet: callers take that as having no parent.
 ZEL_API Gtk::Window* getParentWindow(IView* view);
+
+/// Appends the widget, if it is a `T`, and all `T`s below it to `found`, parents before their children and
+/// those in the order of `get_children`. Null is ignored.
+template <typename T>
+void findChildrens(Gtk::Widget* widget, std::vector<T*>& found) {
+    if (!widget)
+        return;
+    if (auto* const match = dynamic_cast<T*>(widget))
+        found.push_back(match);
+    if (auto* const container = dynamic_cast<Gtk::Container*>(widget))
+        for (Gtk::Widget* const child : container->get_children())
+            findChildrens<T>(child, found);
+}
 
 /// The direction of the same number.
 ZEL_API Orientations orientConvert(Gtk::Orientation orientation);
