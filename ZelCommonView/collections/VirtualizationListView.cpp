@@ -1,6 +1,7 @@
 #include <ZelCommonView/collections/VirtualizationListView.h>
 
 #include <ZelCommonView/common/EmitKept.h>
+#include <ZelCommonView/common/LifeWatch.h>
 
 #include <gtkmm/cellrenderertext.h>
 
@@ -10,10 +11,8 @@
 
 namespace Zel {
 
-namespace {
-
 /// One line of the store, kept to be filled again and again.
-class Line {
+class VirtualizationListView::Line {
 public:
     explicit Line(GtkTreeStore* givenStore)
         : store(givenStore), columns(static_cast<std::size_t>(gtk_tree_model_get_n_columns(model()))),
@@ -65,6 +64,8 @@ private:
     std::vector<gint> columns;
     std::vector<GValue> values;
 };
+
+namespace {
 
 /// A position that Gtk can count; those beyond mean the end.
 int positionOf(unsigned long index) {
@@ -118,8 +119,11 @@ void VirtualizationListView::setColumns(const std::vector<IVirtualizationListCol
         treeColumns.texts.emplace_back();
         treeColumns.add(treeColumns.texts.back());
     }
-    comparators.assign(columns.size(), nullptr);
-    _makeModels();
+    comparators.clear();
+    for (IVirtualizationListColumn* const column : columns)
+        comparators.push_back(column->getComparator());
+    store = Gtk::TreeStore::create(treeColumns);
+    _makeSort();
     set_model(sort);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         auto* const column = Gtk::make_managed<Gtk::TreeViewColumn>(columns[i]->getTitle());
@@ -137,12 +141,10 @@ void VirtualizationListView::setColumns(const std::vector<IVirtualizationListCol
         column->set_alignment(0.5F);
         column->add_attribute(renderer->property_text(), text);
         column->set_sort_column(text);
-        comparators[i] = columns[i]->getComparator();
         append_column(*column);
         // Behind the appending, which takes the mark away.
         column->set_sort_indicator(true);
     }
-    _installComparators();
     show_all();
 }
 
@@ -178,8 +180,9 @@ void VirtualizationListView::moveRow(unsigned long from, unsigned long to) {
 }
 
 void VirtualizationListView::clearAll() {
-    if (store)
-        store->clear();
+    // Not row by row: the models and the view would count anew for each of them.
+    if (store && !store->children().empty())
+        _swapModels([](Line&) {});
 }
 
 std::vector<IRowPresenter*> VirtualizationListView::getSelection() const {
@@ -224,13 +227,8 @@ Gtk::TreeModel::iterator VirtualizationListView::_findRow(unsigned long index) c
     return store->get_iter(pathOf(positionOf(index)));
 }
 
-void VirtualizationListView::_makeModels() {
-    store = Gtk::TreeStore::create(treeColumns);
+void VirtualizationListView::_makeSort() {
     sort = Gtk::TreeModelSort::create(store);
-    _installComparators();
-}
-
-void VirtualizationListView::_installComparators() {
     for (std::size_t i = 0; i < comparators.size(); ++i) {
         if (!comparators[i])
             continue;
@@ -242,47 +240,55 @@ void VirtualizationListView::_installComparators() {
     }
 }
 
-// The store is filled from its end to its beginning: Gtk counts all rows before the one it adds, which are
-// none then. No model and no view looks on, since each of them would count again.
 void VirtualizationListView::_fill(unsigned long index, const std::vector<IRowPresenter*>& presenters) {
     const std::size_t added = presenters.size() - 1;
     const std::vector<unsigned long> selected = _getSelectedIndices();
+    const Glib::RefPtr<Gtk::TreeStore> old = store;
+    selectionConnection.block();
+    // From the end to the beginning: Gtk counts all rows before the one it adds, which are none then.
+    _swapModels([&](Line& line) {
+        GtkTreeModel* const model = GTK_TREE_MODEL(old->gobj());
+        const int size = gtk_tree_model_iter_n_children(model, nullptr);
+        GtkTreeIter row;
+        gtk_tree_model_iter_nth_child(model, &row, nullptr, size - 1);
+        for (auto i = static_cast<unsigned long>(size); i > 0; --i) {
+            if (i == index)
+                for (std::size_t k = presenters.size(); k-- > 1;) {
+                    line.take(presenters[k]);
+                    line.insert(0);
+                }
+            line.take(model, &row);
+            line.insert(0);
+            gtk_tree_model_iter_previous(model, &row);
+        }
+    });
+    for (const unsigned long before : selected) {
+        const int now = positionOf(before < index ? before : before + added);
+        get_selection()->select(sort->convert_child_path_to_path(pathOf(now)));
+    }
+    selectionConnection.unblock();
+}
+
+// No model and no view looks on while the new store is filled: each of them would count anew for each row.
+template <typename TFill>
+void VirtualizationListView::_swapModels(TFill fill) {
     int sortColumn = 0;
     Gtk::SortType order = Gtk::SORT_ASCENDING;
     const bool isSorted = sort->get_sort_column_id(sortColumn, order);
     std::vector<bool> indicators;
     for (const Gtk::TreeViewColumn* const column : get_columns())
         indicators.push_back(column->get_sort_indicator());
-
-    selectionConnection.block();
-    unset_model();
-    sort.reset();
-    const Glib::RefPtr<Gtk::TreeStore> old = store;
-    _makeModels();
-    Line line(store->gobj());
-    GtkTreeModel* const oldModel = GTK_TREE_MODEL(old->gobj());
-    const auto oldSize = static_cast<unsigned long>(gtk_tree_model_iter_n_children(oldModel, nullptr));
-    GtkTreeIter row;
-    gtk_tree_model_iter_nth_child(oldModel, &row, nullptr, static_cast<int>(oldSize) - 1);
-    for (unsigned long i = oldSize; i-- > 0;) {
-        if (i + 1 == index)
-            for (std::size_t k = presenters.size(); k-- > 1;) {
-                line.take(presenters[k]);
-                line.insert(0);
-            }
-        line.take(oldModel, &row);
-        line.insert(0);
-        gtk_tree_model_iter_previous(oldModel, &row);
-    }
+    const Glib::RefPtr<Gtk::TreeStore> filled = Gtk::TreeStore::create(treeColumns);
+    Line line(filled->gobj());
+    fill(line);
+    store = filled;
+    _makeSort();
     if (isSorted)
         sort->set_sort_column(sortColumn, order);
+    // What hears of the selection may look at the rows already, or delete the list.
+    const LifeWatch life(*this);
     set_model(sort);
-    for (const unsigned long before : selected) {
-        const int now = positionOf(before < index ? before : before + added);
-        get_selection()->select(sort->convert_child_path_to_path(pathOf(now)));
-    }
-    selectionConnection.unblock();
-    for (std::size_t i = 0; i < indicators.size(); ++i)
+    for (std::size_t i = 0; life && i < indicators.size(); ++i)
         get_column(static_cast<int>(i))->set_sort_indicator(indicators[i]);
 }
 

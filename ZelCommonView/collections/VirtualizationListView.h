@@ -87,9 +87,12 @@ public:
     const TreeColumns& getColumns() const;
 
 private:
+    class Line;
+
     Gtk::TreeModel::iterator _findRow(unsigned long index) const;
-    void _makeModels();
-    void _installComparators();
+    void _makeSort();
+    template <typename TFill>
+    void _swapModels(TFill fill);
     void _fill(unsigned long index, const std::vector<IRowPresenter*>& presenters);
     std::vector<unsigned long> _getSelectedIndices() const;
     void _onSelectionChanged();
@@ -97,7 +100,7 @@ private:
     TreeColumns treeColumns;
     Glib::RefPtr<Gtk::TreeStore> store;    ///< the rows in their own order
     Glib::RefPtr<Gtk::TreeModelSort> sort; ///< the rows as they are shown
-    /// The comparators of the columns, those without one are empty.
+    /// The comparators of the columns; those without one are empty.
     std::vector<std::function<int(const std::string&, const std::string&)>> comparators;
     sigc::connection selectionConnection;
 };

@@ -208,7 +208,7 @@ TEST(NumericEntry, AFormattedValueKeepsItsValueInEveryLocale) {
         EXPECT_EQ(form.entry.get_text(), fixed(value, 3));
         form.focusEntry();
         EXPECT_EQ(form.entry.getValue(), value) << form.entry.get_text();
-        EXPECT_EQ(form.entry.get_text().find(','), Glib::ustring::npos);
+        EXPECT_EQ(form.entry.get_text().raw().find(','), std::string::npos);
         form.focusOther();
         EXPECT_EQ(form.entry.getValue(), value);
         form.entry.setValue(form.entry.getValue());

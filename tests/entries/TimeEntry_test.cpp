@@ -4,7 +4,7 @@
 #include "support/Finalised.h"
 
 #include <cstring>
-#include <regex>
+#include <glibmm/regex.h>
 
 namespace {
 
@@ -23,12 +23,12 @@ struct MenuView : Gtk::Menu, Zel::IView {
 };
 
 bool isTime(const std::string& text) {
-    return std::regex_match(text, std::regex("([0-9]|1[0-9]|2[0-3]):([1-5]?[0-9]):([1-5]?[0-9])"));
+    return Glib::Regex::create("^([0-9]|1[0-9]|2[0-3]):([1-5]?[0-9]):([1-5]?[0-9])\\z")->match(text);
 }
 
 /// Whether a person may leave the text for a while: a part may be missing.
 bool mayStand(const std::string& text) {
-    return std::regex_match(text, std::regex("([0-9]|1[0-9]|2[0-3])?:([1-5]?[0-9])?:([1-5]?[0-9])?"));
+    return Glib::Regex::create("^([0-9]|1[0-9]|2[0-3])?:([1-5]?[0-9])?:([1-5]?[0-9])?\\z")->match(text);
 }
 
 bool hasTwoColons(const std::string& text) {
