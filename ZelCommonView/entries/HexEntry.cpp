@@ -1,5 +1,7 @@
 #include <ZelCommonView/entries/HexEntry.h>
 
+#include <ZelCommonView/common/EmitKept.h>
+
 #include <gdk/gdkkeysyms.h>
 #include <glibmm/main.h>
 #include <gtkmm/menu.h>
@@ -147,7 +149,7 @@ void HexEntry::_onSignalValueChanged() {
     if (value == lastReportedValue)
         return;
     lastReportedValue = value;
-    valueChanged.emit(getValue());
+    emitKept(valueChanged, getValue());
 }
 
 // The last accepted text stays as it is, since it is what was typed and not what was set.

@@ -1,5 +1,7 @@
 #include <ZelCommonView/entries/IpEntry.h>
 
+#include <ZelCommonView/common/EmitKept.h>
+
 #include <glibmm/regex.h>
 
 namespace Zel {
@@ -41,10 +43,7 @@ bool IpEntry::on_key_release_event(GdkEventKey* event) {
                                                  R"re((?:25[0-5]|2[0-4][0-9]|[01]?[0-9][0-9]?)$)re");
         WidgetReference<IpEntry> self;
         self = this;
-        // Copies, since a listener may delete the entry.
-        const sigc::signal<void, bool, std::string const&> kept = ipChanged;
-        const std::string text = lastText;
-        kept.emit(address->match(text), text);
+        emitKept(ipChanged, address->match(lastText), lastText);
         if (!self)
             return false;
     }

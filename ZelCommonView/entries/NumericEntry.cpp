@@ -1,6 +1,7 @@
 #include <ZelCommonView/entries/NumericEntry.h>
 
 #include <ZelCommonView/common/ApproximateLogic.h>
+#include <ZelCommonView/common/EmitKept.h>
 #include <ZelCommonView/common/NumericHelper.h>
 #include <ZelCommonView/entries/NumericConversion.h>
 
@@ -234,7 +235,7 @@ void NumericEntry::_onSignalValueChanged() {
     if (value == lastReportedValue)
         return;
     lastReportedValue = value;
-    valueChanged.emit(getValue());
+    emitKept(valueChanged, getValue());
 }
 
 // The last accepted text stays as it is, since it is what was typed and not what was set.

@@ -1,5 +1,7 @@
 #include <ZelCommonView/entries/StringEntry.h>
 
+#include <ZelCommonView/common/EmitKept.h>
+
 namespace Zel {
 
 StringEntry::StringEntry() {
@@ -65,9 +67,7 @@ void StringEntry::_onSignalValueChanged() {
     if (text == lastReportedText)
         return;
     lastReportedText = text;
-    // A copy of the signal, since a listener may delete the entry.
-    const sigc::signal<void, std::string> kept = valueChanged;
-    kept.emit(text);
+    emitKept(valueChanged, text);
 }
 
 bool StringEntry::on_focus_in_event(GdkEventFocus* event) {

@@ -1,5 +1,7 @@
 #include <ZelCommonView/entries/TimeEntry.h>
 
+#include <ZelCommonView/common/EmitKept.h>
+
 #include <algorithm>
 #include <array>
 
@@ -216,10 +218,7 @@ void TimeEntry::_restore() {
 }
 
 void TimeEntry::_emitDataChanged() {
-    // Copies, since a listener may delete the entry.
-    const sigc::signal<void, bool, std::string const&> kept = dataChanged;
-    const std::string text = lastValidTime;
-    kept.emit(true, text);
+    emitKept(dataChanged, true, lastValidTime);
 }
 
 } // namespace Zel

@@ -21,8 +21,10 @@ bool isHexadecimal(const Glib::ustring& text) {
                        [](gunichar c) { return digits.find(c) != Glib::ustring::npos; });
 }
 
-/// The value by adding up the digits: 0 beyond the largest one.
+/// The value by adding up the digits: 0 beyond the largest one and of what is no number.
 int valueOf(const Glib::ustring& text) {
+    if (!isHexadecimal(text))
+        return 0;
     long long value = 0;
     for (const gunichar c : text) {
         value = value * 16 + g_unichar_xdigit_value(c);
