@@ -19,13 +19,13 @@ add_custom_target(zel-thread-tests)
 
 # zel_add_test(folder file.cpp [SOURCES more.cpp...] [LIBRARIES targets...] [LABELS labels...] [PLAIN] [HANDS]
 #              [OWN_DISPLAY] [LONG] [LOCALES names...])
-# makes the program folder.file. PLAIN is for tests that need neither GTK nor a display; HANDS for those that move the
-# real pointer or press real keys, which must not run beside each other. OWN_DISPLAY is for those that show windows all
-# the time without hands: they would get under the pointer of the others. LOCALES, such as de_DE.UTF-8, runs the program
-# once more in each of these locales, as the test folder.file@locale; not for PLAIN ones, and not under the sanitizers,
-# to which a locale is nothing new. LONG is for those of millions
-# of operations: the address sanitizer notes where memory was taken the quick way there, eight times as fast and less
-# exact.
+# makes the program folder.file. PLAIN is for tests that need neither GTK nor a display. The others share one, save for
+# HANDS, those that move the real pointer or press real keys, and OWN_DISPLAY, those that show windows or fill the
+# clipboard without hands: each of them has a display of its own, with a window manager for the hands, where nothing
+# else gets under the pointer. LOCALES, such as de_DE.UTF-8, runs the program once more in each of these locales, as the
+# test folder.file@locale; not for PLAIN ones, and not under the sanitizers, to which a locale is nothing new. LONG is
+# for those of millions of operations: the address sanitizer notes where memory was taken the quick way there, eight
+# times as fast and less exact.
 function(zel_add_test folder file)
   cmake_parse_arguments(TEST "PLAIN;HANDS;OWN_DISPLAY;LONG" "" "SOURCES;LIBRARIES;LABELS;LOCALES" ${ARGN})
   get_filename_component(stem ${file} NAME_WE)
@@ -53,7 +53,9 @@ function(zel_add_test folder file)
   if(ZEL_SANITIZE)
     set(TEST_LOCALES)
   endif()
-  if(TEST_OWN_DISPLAY)
+  if(TEST_HANDS)
+    set(command ${PROJECT_SOURCE_DIR}/tools/own-display $<TARGET_FILE:${target}>)
+  elseif(TEST_OWN_DISPLAY)
     set(command xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" $<TARGET_FILE:${target}>)
   endif()
   foreach(locale "" ${TEST_LOCALES})
@@ -71,9 +73,6 @@ function(zel_add_test folder file)
     if(locale)
       # The machine may have no way to make the locale.
       set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77)
-    endif()
-    if(TEST_HANDS)
-      set_tests_properties(${name} PROPERTIES RESOURCE_LOCK pointer)
     endif()
   endforeach()
   if("threads" IN_LIST TEST_LABELS)
