@@ -249,7 +249,7 @@ TEST_F(ReadOnlySwitchableContainerTest, ADeadContainerHidesNoneAtItsAddress) {
 }
 
 TEST_F(ReadOnlySwitchableContainerTest, DeadContainersAreForgotten) {
-    for (int i = 0; i < 10000; ++i) {
+    for (int i = 0; i < 500; ++i) {
         std::vector<std::unique_ptr<Gtk::Box>> many;
         for (int k = 0; k < 3; ++k) {
             many.push_back(std::make_unique<Gtk::Box>());
