@@ -159,7 +159,7 @@ TEST(Zones, AReversedZoneLooksTheOppositeWay) {
 
 TEST(Zones, TheDefaultsGrowWithTheLine) {
     for (const Characteristic characteristic : {Characteristic::Mho, Characteristic::Quadrilateral}) {
-        const auto zones = defaultZones(reach, characteristic);
+        const auto zones = zonesOf(reach, characteristic);
         ASSERT_EQ(zones.size(), 3u);
         EXPECT_EQ(zones[0].name, "Zone 1");
         EXPECT_EQ(zones[2].name, "Zone 3");
@@ -171,10 +171,10 @@ TEST(Zones, TheDefaultsGrowWithTheLine) {
             EXPECT_FALSE(contains(zones[i].area, -0.2501 * reach)) << i;
         }
     }
-    const Area first = defaultZones(reach, Characteristic::Quadrilateral)[0].area;
+    const Area first = zonesOf(reach, Characteristic::Quadrilateral)[0].area;
     EXPECT_TRUE(contains(first, 0.4 * reach + 0.75 * 0.8 * 8 - 0.001));
     EXPECT_FALSE(contains(first, 0.4 * reach + 0.75 * 0.8 * 8 + 0.001));
     EXPECT_TRUE(contains(first, 0.7 * reach - 0.25 * 0.8 * 8 + 0.001));
     EXPECT_FALSE(contains(first, 0.7 * reach - 0.25 * 0.8 * 8 - 0.001));
-    EXPECT_TRUE(defaultZones(0).empty());
+    EXPECT_TRUE(zonesOf(0).empty());
 }
