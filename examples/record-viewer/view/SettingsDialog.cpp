@@ -35,6 +35,7 @@ void SettingsDialog::open(Zel::IView* parent, const ImpedanceSettings& settings,
     view->setCloseButtonFunction(mayClose);
     view->show(parent);
     Gtk::Window& window = *getWindow();
+    window.signal_map_event().connect(sigc::mem_fun(*this, &SettingsDialog::_onMapped), true);
     window.set_resizable(false);
     window.signal_key_press_event().connect(sigc::mem_fun(*this, &SettingsDialog::_onKeyPress), false);
     _makeOkDefault(window);
@@ -59,6 +60,12 @@ bool SettingsDialog::_onApply() {
 
 void SettingsDialog::_onClosed() {
     dismiss();
+}
+
+bool SettingsDialog::_onMapped(GdkEventAny*) {
+    // Some window managers leave the keys with the window from which one of this kind was opened.
+    getWindow()->present();
+    return false;
 }
 
 bool SettingsDialog::_onKeyPress(GdkEventKey* event) {

@@ -30,6 +30,7 @@ public:
 private:
     bool _onApply();
     void _onClosed();
+    bool _onMapped(GdkEventAny* event);
     bool _onKeyPress(GdkEventKey* event);
     void _makeOkDefault(Gtk::Window& window);
 

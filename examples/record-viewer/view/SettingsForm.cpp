@@ -6,11 +6,12 @@ namespace viewer {
 
 namespace {
 
-constexpr int margin = 12;        // pixels
-constexpr int indent = 24;        // of what belongs to a tick, pixels
-constexpr int groupDistance = 8;  // above a group, pixels
-constexpr int entryWidth = 96;    // pixels
-constexpr int sentenceWidth = 48; // characters
+constexpr int margin = 12;         // pixels
+constexpr int indent = 24;         // of what belongs to a tick, pixels
+constexpr int groupDistance = 8;   // above a group, pixels
+constexpr int columnDistance = 18; // pixels
+constexpr int entryWidth = 96;     // pixels
+constexpr int sentenceWidth = 48;  // characters
 
 /// A turn of the wheel.
 double wheelStepOf(Field field) {
@@ -96,8 +97,7 @@ void SettingsForm::_composeEntry(Field field, int column, int row) {
     names[i].set_xalign(0);
     units[i].set_text(words::unitOf(field, side));
     units[i].set_xalign(0);
-    (column == 0 ? names[i].property_margin_start() : units[i].property_margin_end()) =
-        column == 0 ? indent : 0;
+    names[i].set_margin_start(column == 0 ? indent : columnDistance);
     grid.attach(names[i], 3 * column, row);
     grid.attach(entry, 3 * column + 1, row);
     grid.attach(units[i], 3 * column + 2, row);
@@ -111,6 +111,10 @@ void SettingsForm::_composeVerdict() {
     sentence.set_max_width_chars(sentenceWidth);
     verdict.pack_start(warning, Gtk::PACK_SHRINK);
     verdict.pack_start(sentence, Gtk::PACK_EXPAND_WIDGET);
+    warning.show();
+    sentence.show();
+    // The window shows all that it has when it opens.
+    verdict.set_no_show_all(true);
     pack_start(verdict, Gtk::PACK_SHRINK);
     defaultsButton.set_label(words::defaults());
     defaultsButton.set_halign(Gtk::ALIGN_START);

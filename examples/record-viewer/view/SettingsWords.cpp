@@ -13,9 +13,9 @@ const char* say(const Word& word) {
 }
 
 const Word shortNames[fieldCount] = {
-    {"Z1", "Z1"},         {"angle", "угол"},        {"k0", "k0"},
-    {"angle", "угол"},    {"Frequency", "Частота"}, {"Zone 1", "Зона 1"},
-    {"Zone 2", "Зона 2"}, {"Zone 3", "Зона 3"},     {"backward", "назад"},
+    {"Z1", "Z1"},         {"Angle", "Угол"},        {"k0", "k0"},
+    {"Angle", "Угол"},    {"Frequency", "Частота"}, {"Zone 1", "Зона 1"},
+    {"Zone 2", "Зона 2"}, {"Zone 3", "Зона 3"},     {"Backward", "Назад"},
 };
 
 const Word fullNames[fieldCount] = {
