@@ -59,7 +59,8 @@ public:
         log.set_cursor_visible(false);
         log.get_buffer()->set_text(words("Tab and Return report here. Try the wheel and the right button.\n",
                                          "Tab и Enter сообщат здесь. Есть колесо и правая кнопка.\n"));
-        log.property_margin() = 6;
+        log.set_left_margin(6);
+        log.set_top_margin(6);
         logWindow.set_shadow_type(Gtk::SHADOW_IN);
         logWindow.set_min_content_height(150);
         logWindow.add(log);

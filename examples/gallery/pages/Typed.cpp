@@ -23,7 +23,8 @@ public:
         _attach(words("Time", "Время"), time, timeHint);
         pack_start(grid, Gtk::PACK_SHRINK);
         logWindow.set_shadow_type(Gtk::SHADOW_IN);
-        log.property_margin() = 6;
+        log.set_left_margin(6);
+        log.set_top_margin(6);
         logWindow.add(log);
         log.set_editable(false);
         log.set_cursor_visible(false);

@@ -1,22 +1,11 @@
-// The dialog of the settings, used as a person uses it: what it refuses, what it changes and what it keeps.
-#include "Circuit.h"
+// The dialog of the settings, used as a person uses it: what it refuses and what it changes.
+#include "SettingsHands.h"
 #include "reader/Reader.h"
-#include "support/Answer.h"
 #include "support/Finalised.h"
-#include "support/Hands.h"
-#include "support/Keyboard.h"
-#include "support/TemporaryFolder.h"
-#include "view/MainWindow.h"
 #include "view/SettingsWords.h"
-
-#include <ZelCommonView/common/Language.h>
-#include <ZelCommonView/diagrams/StyleZoomHelper.h>
-#include <ZelCommonView/plot/SeriesTimeCounter.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <sys/wait.h>
 
 namespace {
 
@@ -25,136 +14,8 @@ using testing::Not;
 using viewer::Field;
 using viewer::Group;
 using viewer::ImpedanceSettings;
-using viewer::MainWindow;
 
-/// 30 volts drive 10 amperes through phase A alone, at 60 degrees: 3 ohms, and 2 with a k0 of a half.
-record::Record soloRecord() {
-    return test::makeRecord({test::sine(30, 60), test::sine(30, -60), test::sine(30, 180)},
-                            {test::sine(10, 0), 0, 0});
-}
-
-class SettingsDialogTest : public testing::Test {
-protected:
-    SettingsDialogTest() { _make(); }
-
-    ~SettingsDialogTest() override {
-        window.reset();
-        lng::language = 0;
-    }
-
-    void makeAnew(unsigned char language) {
-        lng::language = language;
-        _make();
-    }
-
-    void show(record::Record record) {
-        viewer::Impedances impedances =
-            viewer::computeImpedances(record, window->getSettings().line(), window->getSettings().reaches());
-        window->setRecord(std::move(record), std::move(impedances));
-        window->hodograph.hodograph.getCounter().setIsPaused(true);
-        test::present(*window);
-    }
-
-    Gtk::Window* dialog() { return window->settingsDialog.getWindow(); }
-
-    viewer::SettingsForm& form() { return *window->settingsDialog.form; }
-
-    void open() {
-        test::click(window->settingsButton);
-        ASSERT_TRUE(
-            test::waitFor([&] { return dialog() && dialog()->get_mapped() && dialog()->is_active(); }));
-        test::wait(200);
-    }
-
-    Gtk::Button& button(const std::string& label) {
-        for (Gtk::Button* const found : test::findAll<Gtk::Button>(*dialog()))
-            if (found->get_label() == label && found->get_mapped())
-                return *found;
-        throw std::runtime_error("no button " + label);
-    }
-
-    void tick(Group group) {
-        Gtk::CheckButton& check = form().givenButtons[static_cast<std::size_t>(group)];
-        const bool before = check.get_active();
-        test::click(check, 8, check.get_allocated_height() / 2);
-        EXPECT_TRUE(test::waitFor([&] { return check.get_active() != before; }));
-        test::settle();
-    }
-
-    /// Clicks into the entry, marks all of it and types over it.
-    void enter(Field field, const std::string& text) {
-        Zel::NumericEntry& entry = form()._entryOf(field);
-        test::click(entry);
-        EXPECT_TRUE(test::waitFor([&] { return entry.has_focus(); }));
-        test::wait(100);
-        {
-            const test::HeldKey control(GDK_KEY_Control_L);
-            test::pressKey(GDK_KEY_a);
-        }
-        test::type(text);
-        EXPECT_TRUE(test::waitFor([&] { return entry.get_text() == text; })) << entry.get_text();
-    }
-
-    void pressOk() {
-        test::click(button("OK"));
-        test::wait(300);
-    }
-
-    bool isClosed() {
-        return test::waitFor([&] { return !dialog(); }, 2000);
-    }
-
-    /// The fields whose entries are marked.
-    std::vector<Field> marked() {
-        std::vector<Field> all;
-        for (const Field field : viewer::allFields)
-            if (form()._entryOf(field).get_style_context()->has_class("error"))
-                all.push_back(field);
-        return all;
-    }
-
-    void expectVeto(Field field, const std::string& sentence) {
-        ASSERT_NE(dialog(), nullptr) << "the dialog has closed";
-        EXPECT_TRUE(dialog()->get_mapped());
-        EXPECT_EQ(marked(), std::vector<Field>{field});
-        EXPECT_TRUE(form().sentence.get_mapped());
-        EXPECT_EQ(form().sentence.get_text(), sentence);
-        EXPECT_TRUE(form()._entryOf(field).has_focus());
-    }
-
-    void expectNoVeto() {
-        EXPECT_TRUE(marked().empty());
-        EXPECT_FALSE(form().verdict.get_mapped());
-    }
-
-    std::vector<const Zel::Circle*> zones() {
-        std::vector<const Zel::Circle*> all;
-        for (const auto& figure : window->plane.diagram.figures)
-            if (const auto* const circle = dynamic_cast<const Zel::Circle*>(figure.get());
-                circle && circle->radius > 0)
-                all.push_back(circle);
-        return all;
-    }
-
-    void expectCircle(const Zel::Circle& circle, double x, double y, double radius) {
-        EXPECT_NEAR(circle.x, x, 1e-4);
-        EXPECT_NEAR(circle.y, y, 1e-4);
-        EXPECT_NEAR(circle.radius, radius, 1e-4);
-    }
-
-    /// The first point of the hodograph.
-    Zel::PointF firstPoint() { return window->hodograph.hodograph.series.front()->points.front().point; }
-
-    test::TemporaryFolder folder;
-    std::string file = folder.path / "config" / "window.ini";
-    std::unique_ptr<MainWindow> window;
-
-private:
-    void _make() {
-        window.reset();
-        window = std::make_unique<MainWindow>("test", file);
-    }
-};
+using SettingsDialogTest = test::SettingsHands;
 
 } // namespace
 
@@ -181,7 +42,7 @@ TEST_F(SettingsDialogTest, OpensOnceThereIsARecord) {
 }
 
 TEST_F(SettingsDialogTest, ASecondPressBringsTheOpenOneToTheFront) {
-    show(soloRecord());
+    show(test::soloRecord());
     open();
     enter(Field::Zone1, "70");
     const Gtk::Window* const first = dialog();
@@ -196,7 +57,7 @@ TEST_F(SettingsDialogTest, ASecondPressBringsTheOpenOneToTheFront) {
 }
 
 TEST_F(SettingsDialogTest, AValueOutOfItsRangeKeepsItOpenUntilItIsPutRight) {
-    show(soloRecord());
+    show(test::soloRecord());
     EXPECT_TRUE(zones().empty());
     open();
     tick(Group::Line);
@@ -233,7 +94,7 @@ TEST_F(SettingsDialogTest, AValueOutOfItsRangeKeepsItOpenUntilItIsPutRight) {
 }
 
 TEST_F(SettingsDialogTest, TheCompensationMovesTheTrajectory) {
-    show(soloRecord());
+    show(test::soloRecord());
     const double y = std::sqrt(3.0) / 2;
     EXPECT_NEAR(firstPoint().x, 1.5, 1e-4);
     EXPECT_NEAR(firstPoint().y, 3 * y, 1e-4);
@@ -278,7 +139,7 @@ TEST_F(SettingsDialogTest, ALoopThatIsLookedAtStays) {
 }
 
 TEST_F(SettingsDialogTest, AnotherFrequencyIsToldBesideThatOfTheRecord) {
-    show(soloRecord());
+    show(test::soloRecord());
     open();
     EXPECT_EQ(form().givenButtons[2].get_label(), "Another frequency than the 50 Hz of the record");
     tick(Group::Frequency);
@@ -307,7 +168,7 @@ TEST_F(SettingsDialogTest, AnotherFrequencyIsToldBesideThatOfTheRecord) {
 }
 
 TEST_F(SettingsDialogTest, ARecordWithoutAFrequencyCanBeGivenOne) {
-    record::Record record = soloRecord();
+    record::Record record = test::soloRecord();
     record.lineFrequency = 0;
     show(std::move(record));
     EXPECT_THAT(window->hodograph.problem.get_text().raw(), HasSubstr("does not tell the frequency"));
@@ -322,7 +183,7 @@ TEST_F(SettingsDialogTest, ARecordWithoutAFrequencyCanBeGivenOne) {
 }
 
 TEST_F(SettingsDialogTest, ZonesThatContradictEachOtherAreRefused) {
-    show(soloRecord());
+    show(test::soloRecord());
     open();
     enter(Field::Zone2, "70");
     pressOk();
@@ -343,7 +204,7 @@ TEST_F(SettingsDialogTest, ZonesThatContradictEachOtherAreRefused) {
 }
 
 TEST_F(SettingsDialogTest, WhatIsNoNumberIsRefusedAndFollowsTheTick) {
-    show(soloRecord());
+    show(test::soloRecord());
     open();
     tick(Group::Compensation);
     Zel::NumericEntry& entry = form()._entryOf(Field::K0Angle);
@@ -370,7 +231,7 @@ TEST_F(SettingsDialogTest, WhatIsNoNumberIsRefusedAndFollowsTheTick) {
 }
 
 TEST_F(SettingsDialogTest, CancelEscapeAndTheBarChangeNothing) {
-    show(soloRecord());
+    show(test::soloRecord());
     for (int way = 0; way < 3; ++way) {
         open();
         tick(Group::Line);
@@ -419,30 +280,9 @@ TEST_F(SettingsDialogTest, DefaultsAreWhatTheRecordTellsOnceOkIsPressed) {
     EXPECT_THAT(test::readFile(file), Not(HasSubstr("z1")));
 }
 
-TEST_F(SettingsDialogTest, TheNextWindowBeginsWithThem) {
-    show(soloRecord());
-    open();
-    tick(Group::Line);
-    enter(Field::Z1, "8.125");
-    pressOk();
-    ASSERT_TRUE(isClosed());
-    window->close();
-    test::settle();
-    makeAnew(0);
-    // The place of the window stands beside them and has not pushed them out.
-    EXPECT_THAT(test::readFile(file), HasSubstr("[window]\n"));
-    EXPECT_THAT(test::readFile(file), HasSubstr("[impedance]\nz1-ohms=8.125\nz1-degrees=75\n"));
-    show(soloRecord());
-    EXPECT_THAT(window->plane.status.get_text().raw(), HasSubstr("a line of 8.12 ohm at 75°"));
-    EXPECT_EQ(zones().size(), 3u);
-    open();
-    EXPECT_TRUE(form().givenButtons[0].get_active());
-    EXPECT_EQ(form()._entryOf(Field::Z1).get_text(), "8.125");
-}
-
 TEST_F(SettingsDialogTest, SpeaksTheLanguage) {
     makeAnew(1);
-    show(soloRecord());
+    show(test::soloRecord());
     EXPECT_EQ(window->settingsButton.get_label(), "Настройки");
     open();
     EXPECT_EQ(dialog()->get_title(), "Линия и зоны");
@@ -465,9 +305,9 @@ TEST_F(SettingsDialogTest, SpeaksTheLanguage) {
 }
 
 TEST_F(SettingsDialogTest, GoesWithTheWindowAndWithTheRecord) {
-    show(soloRecord());
+    show(test::soloRecord());
     open();
-    window->setRecord(soloRecord(), viewer::computeImpedances(soloRecord()));
+    window->setRecord(test::soloRecord(), viewer::computeImpedances(test::soloRecord()));
     EXPECT_EQ(dialog(), nullptr);
     test::settle();
     open();
@@ -479,74 +319,4 @@ TEST_F(SettingsDialogTest, GoesWithTheWindowAndWithTheRecord) {
     test::settle();
     EXPECT_TRUE(finalised.all());
     window.reset();
-}
-
-TEST_F(SettingsDialogTest, TheProgramKeepsThemInTheFolderOfTheUser) {
-    // Where the button stands in a window at a known place.
-    const std::filesystem::path config = folder.path / "user";
-    const std::filesystem::path kept = config / "record-viewer" / "window.ini";
-    std::filesystem::create_directories(kept.parent_path());
-    const std::string place = "[window]\nx=120\ny=80\nwidth=1280\nheight=860\n";
-    test::writeFile(kept, place + "[impedance]\nk0=absurd\n");
-    int x = 0;
-    int y = 0;
-    {
-        MainWindow model("test", kept);
-        record::Record record = record::open(DEMO_RECORD);
-        viewer::Impedances impedances = viewer::computeImpedances(record);
-        model.setRecord(std::move(record), std::move(impedances));
-        test::present(model);
-        int left = 0;
-        int top = 0;
-        model.settingsButton.get_window()->get_origin(left, top);
-        const Gtk::Allocation button = model.settingsButton.get_allocation();
-        x = left + button.get_x() + button.get_width() / 2;
-        y = top + button.get_y() + button.get_height() / 2;
-    }
-    test::writeFile(kept, place + "[impedance]\nk0=absurd\n");
-    window->hide();
-    test::settle();
-
-    const std::string errors = folder.path / "errors";
-    FILE* const program = popen(("XDG_CONFIG_HOME='" + config.string() + "' timeout 12 '" + VIEWER + "' '" +
-                                 DEMO_RECORD + "' 2>'" + errors + "'")
-                                    .c_str(),
-                                "r");
-    ASSERT_NE(program, nullptr);
-    test::wait(3000);
-    test::movePointer(x, y);
-    test::wait(100);
-    test::pressButton();
-    test::releaseButton();
-    test::wait(1500);
-    test::pressKey(GDK_KEY_space); // the line is known
-    test::pressKey(GDK_KEY_Tab);
-    test::wait(200);
-    test::type("6.5");
-    test::pressKey(GDK_KEY_Return);
-    const bool isKept = test::waitFor(
-        [&] { return test::readFile(kept).find("z1-ohms=6.5\nz1-degrees=75\n") != std::string::npos; });
-    EXPECT_TRUE(isKept) << test::readFile(kept);
-    EXPECT_EQ(WEXITSTATUS(pclose(program)), 124) << "it ended by itself";
-    EXPECT_EQ(test::readFile(errors), "");
-    EXPECT_THAT(test::readFile(kept), HasSubstr("x=120"));
-    EXPECT_THAT(test::readFile(kept), Not(HasSubstr("k0")));
-}
-
-TEST(SettingsAndPictures, PicturesFollowTheRecordAlone) {
-    const test::TemporaryFolder folder;
-    const std::filesystem::path kept = folder.path / "record-viewer" / "window.ini";
-    const auto paint = [&](const std::string& name) {
-        const std::filesystem::path pictures = folder.path / name;
-        EXPECT_NE(test::outputOf("XDG_CONFIG_HOME='" + folder.path.string() + "' '" + VIEWER + "' --png '" +
-                                 pictures.string() + "' '" + DEMO_RECORD + "' 2>/dev/null"),
-                  "");
-        return test::readFile(pictures / "line-fault-zplane.png");
-    };
-    const std::string without = paint("without");
-    EXPECT_NE(without, "");
-    std::filesystem::create_directories(kept.parent_path());
-    test::writeFile(kept, "[impedance]\nz1-ohms=8\nk0=0.7\nzone-1-percent=30\n");
-    EXPECT_EQ(paint("with"), without);
-    EXPECT_EQ(test::readFile(kept), "[impedance]\nz1-ohms=8\nk0=0.7\nzone-1-percent=30\n");
 }

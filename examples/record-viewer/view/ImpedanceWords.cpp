@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <locale>
 #include <sstream>
 
 namespace viewer::words {
@@ -50,6 +51,8 @@ const Word sentences[] = {
 
 std::string number(double value, int digits) {
     std::ostringstream text;
+    // As in the entries of the settings and on the axes, whatever the locale.
+    text.imbue(std::locale::classic());
     text.precision(digits);
     text << value;
     return text.str();

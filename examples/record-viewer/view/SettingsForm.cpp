@@ -111,10 +111,13 @@ void SettingsForm::_composeVerdict() {
     sentence.set_max_width_chars(sentenceWidth);
     verdict.pack_start(warning, Gtk::PACK_SHRINK);
     verdict.pack_start(sentence, Gtk::PACK_EXPAND_WIDGET);
-    warning.show();
-    sentence.show();
     // The window shows all that it has when it opens.
-    verdict.set_no_show_all(true);
+    warning.set_no_show_all(true);
+    // There is room for a sentence from the start, so that OK stays where it is under the pointer.
+    int width = 0;
+    int height = 0;
+    sentence.create_pango_layout("\n")->get_pixel_size(width, height);
+    verdict.set_size_request(-1, height);
     pack_start(verdict, Gtk::PACK_SHRINK);
     defaultsButton.set_label(words::defaults());
     defaultsButton.set_halign(Gtk::ALIGN_START);
@@ -154,13 +157,14 @@ void SettingsForm::_showVeto(const Veto& veto) {
     entry.get_style_context()->add_class("error");
     entry.grab_focus();
     sentence.set_text(words::vetoOf(veto));
-    verdict.show();
+    warning.show();
 }
 
 void SettingsForm::_clearVeto() {
     for (Zel::NumericEntry& entry : entries)
         entry.get_style_context()->remove_class("error");
-    verdict.hide();
+    sentence.set_text("");
+    warning.hide();
 }
 
 Zel::NumericEntry& SettingsForm::_entryOf(Field field) {
