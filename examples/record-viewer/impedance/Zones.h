@@ -85,8 +85,8 @@ struct Reaches {
 bool operator==(const Reaches& a, const Reaches& b);
 
 /// The zones of a line, by default those to show when no settings of a relay are at hand. The quadrilaterals
-/// reach along the resistance by three quarters of |reach| to the right and one quarter to the left. Without a
-/// line impedance there are none. The reach of zone 3 must be above 0.
+/// reach along the resistance by three quarters of |reach| to the right and one quarter to the left. Without
+/// a line impedance there are none. The reach of zone 3 must be above 0.
 std::vector<Zone> zonesOf(Complex z1, Characteristic characteristic = Characteristic::Mho,
                           const Reaches& reaches = {});
 

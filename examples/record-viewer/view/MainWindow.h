@@ -22,13 +22,13 @@
 namespace viewer {
 
 /// The viewer's window: one record in four panels, which are empty until it is read and which a person
-/// arranges by their titles, closes and brings back at will. Both panels of impedances show the same loop, and the dot in the
-/// Z plane stands where the replay of the hodograph does. F1 opens the help; Ctrl with plus, minus, 0 or the
-/// wheel changes the size of the text.
+/// arranges by their titles, closes and brings back at will. Both panels of impedances show the same loop,
+/// and the dot in the Z plane stands where the replay of the hodograph does. F1 opens the help; Ctrl with
+/// plus, minus, 0 or the wheel changes the size of the text.
 class MainWindow : public Zel::Window, public Zel::IView {
 public:
-    /// The title names the record's file. Place, size and settings are kept in `placeFile`; an empty name keeps
-    /// none.
+    /// The title names the record's file. Place, size and settings are kept in `placeFile`; an empty name
+    /// keeps none.
     explicit MainWindow(const std::string& file, const std::string& placeFile = "");
     ~MainWindow() override;
 
@@ -65,8 +65,8 @@ private:
     std::unique_ptr<Zel::PanelManagerPresenter> panels; ///< never null
     SettingsFile settingsFile;
     ImpedanceSettings settings;
-    record::Record source;                         ///< what impedances are computed from
-    std::shared_ptr<const Impedances> impedances;  ///< null before the first record
+    record::Record source;                        ///< what impedances are computed from
+    std::shared_ptr<const Impedances> impedances; ///< null before the first record
     SettingsDialog settingsDialog;
     Zel::AboutWindowActivatorPresenter about;
     Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 4};
