@@ -49,10 +49,12 @@ record::Record read(const viewer::Arguments& arguments) {
 bool loadInto(viewer::MainWindow& window, const viewer::Arguments& arguments) {
     try {
         viewer::Impedances impedances;
+        // Of its own for the other thread.
+        const viewer::ImpedanceSettings settings = window.getSettings();
         record::Record record =
             viewer::loadBehindDialog(window, arguments.file, optionsOf(arguments), [&](record::Record& read) {
                 setAxis(read, arguments.axis);
-                impedances = viewer::computeImpedances(read);
+                impedances = viewer::computeImpedances(read, settings.line(), settings.reaches());
             });
         window.setRecord(std::move(record), std::move(impedances));
         return true;
@@ -78,7 +80,9 @@ int show(const viewer::Arguments& arguments) {
                               viewer::WindowPlace::usualFile());
     int code = Success;
     if (record) {
-        viewer::Impedances impedances = viewer::computeImpedances(*record);
+        const viewer::ImpedanceSettings& settings = window.getSettings();
+        viewer::Impedances impedances =
+            viewer::computeImpedances(*record, settings.line(), settings.reaches());
         window.setRecord(std::move(*record), std::move(impedances));
     } else {
         Glib::signal_idle().connect_once([&] {

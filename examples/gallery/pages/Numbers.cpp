@@ -44,6 +44,8 @@ public:
 
         grid.set_row_spacing(8);
         grid.set_column_spacing(12);
+        numberName.set_xalign(0);
+        addressName.set_xalign(0);
         grid.attach(numberName, 0, 0);
         grid.attach(number, 1, 0);
         grid.attach(addressName, 0, 1);
@@ -57,6 +59,8 @@ public:
         log.set_cursor_visible(false);
         log.get_buffer()->set_text(words("Tab and Return report here. Try the wheel and the right button.\n",
                                          "Tab и Enter сообщат здесь. Есть колесо и правая кнопка.\n"));
+        log.set_left_margin(6);
+        log.set_top_margin(6);
         logWindow.set_shadow_type(Gtk::SHADOW_IN);
         logWindow.set_min_content_height(150);
         logWindow.add(log);

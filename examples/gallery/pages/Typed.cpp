@@ -15,13 +15,16 @@ namespace {
 class Typed : public Gtk::Box {
 public:
     Typed() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 12) {
-        grid.set_row_spacing(4);
+        grid.set_row_spacing(8);
         grid.set_column_spacing(12);
         _attach(words("Text", "Текст"), text, autosize);
         _attach(words("Address", "Адрес"), address, verdict);
         _attach(words("Date", "Дата"), date, dateHint);
         _attach(words("Time", "Время"), time, timeHint);
         pack_start(grid, Gtk::PACK_SHRINK);
+        logWindow.set_shadow_type(Gtk::SHADOW_IN);
+        log.set_left_margin(6);
+        log.set_top_margin(6);
         logWindow.add(log);
         log.set_editable(false);
         log.set_cursor_visible(false);
@@ -63,9 +66,9 @@ private:
         entry.set_halign(Gtk::ALIGN_START);
         beside.set_halign(Gtk::ALIGN_START);
         grid.attach(*label, 0, rows);
-        grid.attach(entry, 0, rows + 1);
-        grid.attach(beside, 1, rows + 1);
-        rows += 2;
+        grid.attach(entry, 1, rows);
+        grid.attach(beside, 2, rows);
+        ++rows;
     }
 
     void _onEmpty() { text.set_text(""); }

@@ -7,6 +7,8 @@ Complex fromAngle(double magnitude, double degrees) {
 }
 
 std::optional<Complex> compensation(const LineSettings& line) {
+    if (line.k0)
+        return line.k0;
     if (line.z1 == Complex() || line.z0 == Complex())
         return std::nullopt;
     return (line.z0 - line.z1) / (3.0 * line.z1);

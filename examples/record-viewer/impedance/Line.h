@@ -14,6 +14,8 @@ struct LineSettings {
     /// Of the positive and the zero sequence of the whole line, in ohms on `side`; 0 where not known.
     Complex z1;
     Complex z0;
+    /// The earth-fault compensation factor where it is given by itself; it goes before that of z1 and z0.
+    std::optional<Complex> k0;
     /// Hertz; 0 for what the record says.
     double frequency = 0;
     /// That all impedances and currents are told on.
@@ -32,7 +34,8 @@ struct LineSettings {
 Complex fromAngle(double magnitude, double degrees);
 
 /// The earth-fault compensation factor k0 = (Z0 - Z1) / (3 * Z1), which is complex (Phadke and Thorp, see
-/// Phasor.h; also called KN). Empty where either impedance is not known.
+/// Phasor.h; also called KN), or the one that is given. Empty where there is none and either impedance is not
+/// known.
 std::optional<Complex> compensation(const LineSettings& line);
 
 } // namespace impedance

@@ -124,9 +124,11 @@ Trajectories trajectories(const record::Record& record, const Inputs& inputs, co
     const std::optional<Complex> k0 = compensation(line);
     if (!k0)
         result.remarks.push_back(
-            "The impedances of the line are not known, so the loops to earth are computed "
-            "without earth-fault compensation (k0 = 0); the loops between phases need "
-            "none.");
+            line.z1 == Complex()
+                ? "The impedances of the line are not known, so the loops to earth are computed without "
+                  "earth-fault compensation (k0 = 0); the loops between phases need none."
+                : "The earth-fault compensation of the line is not known, so the loops to earth are "
+                  "computed without it (k0 = 0); the loops between phases need none.");
     const Stretches stretches = stretchesOf(record, frequency);
     result.remarks.insert(result.remarks.end(), stretches.remarks.begin(), stretches.remarks.end());
 

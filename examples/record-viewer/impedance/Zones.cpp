@@ -113,12 +113,18 @@ Area reversed(const Area& area) {
     return result;
 }
 
-std::vector<Zone> defaultZones(Complex z1, Characteristic characteristic) {
+bool operator==(const Reaches& a, const Reaches& b) {
+    return a.zone1 == b.zone1 && a.zone2 == b.zone2 && a.zone3 == b.zone3 && a.backward == b.backward;
+}
+
+std::vector<Zone> zonesOf(Complex z1, Characteristic characteristic, const Reaches& reaches) {
     if (z1 == Complex())
         return {};
-    return {{"Zone 1", areaOf(characteristic, 0.8 * z1, 0)},
-            {"Zone 2", areaOf(characteristic, 1.2 * z1, 0)},
-            {"Zone 3", areaOf(characteristic, 2.0 * z1, 0.125)}};
+    return {
+        {"Zone 1", areaOf(characteristic, reaches.zone1 * z1, 0)},
+        {"Zone 2", areaOf(characteristic, reaches.zone2 * z1, 0)},
+        {"Zone 3", areaOf(characteristic, reaches.zone3 * z1, reaches.backward / reaches.zone3)},
+    };
 }
 
 } // namespace impedance

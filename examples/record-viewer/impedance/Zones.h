@@ -73,10 +73,21 @@ struct Zone {
 
 enum class Characteristic { Mho, Quadrilateral };
 
-/// Three zones to show for a line when no settings of a relay are at hand. Zone 1 reaches over 80 percent of
-/// the line and zone 2 over 120 percent, as is usual; zone 3 over
-/// 200 percent and 25 percent backward. The quadrilaterals reach along the resistance by three quarters of
-/// |reach| to the right and one quarter to the left. Without a line impedance there are none.
-std::vector<Zone> defaultZones(Complex z1, Characteristic characteristic = Characteristic::Mho);
+/// How far the three zones of a line reach, in lines. Zone 1 covers 80 percent and zone 2 120 percent, as is
+/// usual.
+struct Reaches {
+    double zone1 = 0.8;
+    double zone2 = 1.2;
+    double zone3 = 2.0;
+    double backward = 0.25; ///< of zone 3, behind the origin
+};
+
+bool operator==(const Reaches& a, const Reaches& b);
+
+/// The zones of a line, by default those to show when no settings of a relay are at hand. The quadrilaterals
+/// reach along the resistance by three quarters of |reach| to the right and one quarter to the left. Without
+/// a line impedance there are none. The reach of zone 3 must be above 0.
+std::vector<Zone> zonesOf(Complex z1, Characteristic characteristic = Characteristic::Mho,
+                          const Reaches& reaches = {});
 
 } // namespace impedance

@@ -96,6 +96,6 @@ TEST(DemoImpedance, TheFaultLiesInTheDefaultZones) {
     const LineSettings line = makeLine();
     const Complex fault = at(compute(line), Loop::AE, 0.25);
     for (const Characteristic characteristic : {Characteristic::Mho, Characteristic::Quadrilateral})
-        for (const Zone& zone : defaultZones(line.z1, characteristic))
+        for (const Zone& zone : zonesOf(line.z1, characteristic))
             EXPECT_TRUE(contains(zone.area, fault)) << zone.name;
 }

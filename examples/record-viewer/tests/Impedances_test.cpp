@@ -237,6 +237,8 @@ TEST(Impedances, EveryRemarkOfTheComputationHasARussianText) {
     line.recordedSide = Side::Secondary;
     line.side = Side::Primary;
     take(record, line);
+    line.z1 = {1, 3};
+    take(record, line);
     record.lineFrequency = 0;
     take(record);
     record.lineFrequency = 400; // two and a half samples in a cycle
@@ -257,7 +259,7 @@ TEST(Impedances, EveryRemarkOfTheComputationHasARussianText) {
 
     std::sort(sentences.begin(), sentences.end());
     sentences.erase(std::unique(sentences.begin(), sentences.end()), sentences.end());
-    EXPECT_GE(sentences.size(), 11u);
+    EXPECT_GE(sentences.size(), 12u);
     for (const std::string& sentence : sentences) {
         EXPECT_EQ(viewer::words::translated(sentence), sentence);
         const InRussian russian;

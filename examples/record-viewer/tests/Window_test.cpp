@@ -4,6 +4,7 @@
 #include "support/Answer.h"
 #include "support/Keyboard.h"
 #include "support/TemporaryFolder.h"
+#include "view/SettingsWords.h"
 #include "view/Words.h"
 
 #include <ZelCommonView/common/Language.h>
@@ -122,14 +123,15 @@ TEST_F(ViewerWindow, StaysHiddenUntilItIsShownAndThenHasItsButtons) {
     EXPECT_FALSE(window.get_visible());
     window.show();
     test::wait(200);
-    for (Gtk::Button* const button : {&window.arrangeButton, &window.helpButton, &window.aboutButton})
+    for (Gtk::Button* const button :
+         {&window.settingsButton, &window.arrangeButton, &window.helpButton, &window.aboutButton})
         EXPECT_TRUE(button->get_mapped());
     expectSeen(window, "OHC");
     window.hide();
     test::settle();
     window.show();
     test::wait(200);
-    EXPECT_EQ(window.buttons.get_children().size(), 3u);
+    EXPECT_EQ(window.buttons.get_children().size(), 4u);
     EXPECT_TRUE(window.helpButton.get_mapped());
 }
 
@@ -335,6 +337,7 @@ TEST_F(ViewerHelp, AllTextsLieBesideTheProgram) {
         const std::string text = test::readFile(beside / viewer::words::helpFile());
         EXPECT_NE(text.find(viewer::words::programName()), std::string::npos);
         EXPECT_NE(text.find(viewer::words::resetPanels()), std::string::npos);
+        EXPECT_NE(text.find(viewer::words::settings()), std::string::npos);
         EXPECT_NE(text.find("F1"), std::string::npos);
     }
     for (const char* const name : {"eula.txt", "thirdParty.txt"})

@@ -159,7 +159,7 @@ TEST(Zones, AReversedZoneLooksTheOppositeWay) {
 
 TEST(Zones, TheDefaultsGrowWithTheLine) {
     for (const Characteristic characteristic : {Characteristic::Mho, Characteristic::Quadrilateral}) {
-        const auto zones = defaultZones(reach, characteristic);
+        const auto zones = zonesOf(reach, characteristic);
         ASSERT_EQ(zones.size(), 3u);
         EXPECT_EQ(zones[0].name, "Zone 1");
         EXPECT_EQ(zones[2].name, "Zone 3");
@@ -171,10 +171,40 @@ TEST(Zones, TheDefaultsGrowWithTheLine) {
             EXPECT_FALSE(contains(zones[i].area, -0.2501 * reach)) << i;
         }
     }
-    const Area first = defaultZones(reach, Characteristic::Quadrilateral)[0].area;
+    const Area first = zonesOf(reach, Characteristic::Quadrilateral)[0].area;
     EXPECT_TRUE(contains(first, 0.4 * reach + 0.75 * 0.8 * 8 - 0.001));
     EXPECT_FALSE(contains(first, 0.4 * reach + 0.75 * 0.8 * 8 + 0.001));
     EXPECT_TRUE(contains(first, 0.7 * reach - 0.25 * 0.8 * 8 + 0.001));
     EXPECT_FALSE(contains(first, 0.7 * reach - 0.25 * 0.8 * 8 - 0.001));
-    EXPECT_TRUE(defaultZones(0).empty());
+    EXPECT_TRUE(zonesOf(0).empty());
+}
+
+TEST(Zones, ReachAsFarAsIsSet) {
+    const Complex reach(3, 4);
+    const Reaches reaches{0.5, 0.9, 1.5, 0};
+    const auto circles = zonesOf(reach, Characteristic::Mho, reaches);
+    ASSERT_EQ(circles.size(), 3u);
+    const double ends[] = {0.5, 0.9, 1.5};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_TRUE(contains(circles[i].area, 0.999 * ends[i] * reach));
+        EXPECT_FALSE(contains(circles[i].area, 1.001 * ends[i] * reach));
+        EXPECT_FALSE(contains(circles[i].area, -0.001 * reach));
+    }
+    const Area back = zonesOf(reach, Characteristic::Mho, {0.5, 0.9, 1.5, 0.4})[2].area;
+    EXPECT_TRUE(contains(back, -0.399 * reach));
+    EXPECT_FALSE(contains(back, -0.401 * reach));
+    const Area below = zonesOf(reach, Characteristic::Quadrilateral, {0.5, 0.9, 1.5, 0.4})[2].area;
+    EXPECT_TRUE(contains(below, {0, -1.599}));
+    EXPECT_FALSE(contains(below, {0, -1.601}));
+}
+
+TEST(Compensation, ThatIsGivenByItselfGoesBeforeThatOfTheImpedances) {
+    LineSettings line;
+    line.k0 = Complex(0.5, 0.1);
+    EXPECT_EQ(*compensation(line), Complex(0.5, 0.1));
+    line.z1 = 1;
+    line.z0 = 4;
+    EXPECT_EQ(*compensation(line), Complex(0.5, 0.1));
+    line.k0.reset();
+    EXPECT_EQ(*compensation(line), Complex(1, 0));
 }

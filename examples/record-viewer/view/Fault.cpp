@@ -9,11 +9,11 @@ namespace viewer {
 namespace {
 
 /// Samples in one cycle; 0 where that can't be told.
-std::size_t cycleOf(const record::Record& record) {
-    if (!(record.lineFrequency > 0) || record.size() < 2)
+std::size_t cycleOf(const record::Record& record, double frequency) {
+    if (!(frequency > 0) || record.size() < 2)
         return 0;
     const double step = record.time.at(1) - record.time.at(0);
-    const double samples = 1 / (step * record.lineFrequency);
+    const double samples = 1 / (step * frequency);
     return samples >= 4 && samples < static_cast<double>(record.size()) / 2
                ? static_cast<std::size_t>(std::lround(samples))
                : 0;
@@ -40,8 +40,8 @@ std::vector<float> slidingRms(const std::vector<float>& samples, std::size_t len
 
 } // namespace
 
-std::optional<Interval> findFault(const record::Record& record) {
-    const std::size_t cycle = cycleOf(record);
+std::optional<Interval> findFault(const record::Record& record, double frequency) {
+    const std::size_t cycle = cycleOf(record, frequency > 0 ? frequency : record.lineFrequency);
     if (cycle == 0)
         return {};
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <locale>
 #include <sstream>
 
 namespace viewer::words {
@@ -35,6 +36,10 @@ const Word sentences[] = {
      "compensation (k0 = 0); the loops between phases need none.",
      "Сопротивления линии неизвестны, поэтому контуры фаза–земля вычислены без компенсации тока нулевой "
      "последовательности (k0 = 0); контурам фаза–фаза она не нужна."},
+    {"The earth-fault compensation of the line is not known, so the loops to earth are computed without it "
+     "(k0 = 0); the loops between phases need none.",
+     "Компенсация тока нулевой последовательности неизвестна, поэтому контуры фаза–земля вычислены без неё "
+     "(k0 = 0); контурам фаза–фаза она не нужна."},
     {"The record does not tell which side of the transformers its values are on, so the impedances are in "
      "ohms of the values as recorded.",
      "В записи не указано, первичные в ней величины или вторичные; сопротивления в омах записанных величин."},
@@ -44,12 +49,23 @@ const Word sentences[] = {
      "Коэффициенты трансформации неизвестны, поэтому сопротивления во вторичных омах."},
 };
 
-/// Three digits that count.
-std::string number(double value) {
+std::string number(double value, int digits) {
     std::ostringstream text;
-    text.precision(3);
+    // As in the entries of the settings and on the axes, whatever the locale.
+    text.imbue(std::locale::classic());
+    text.precision(digits);
     text << value;
     return text.str();
+}
+
+/// Three digits that count.
+std::string number(double value) {
+    return number(value, 3);
+}
+
+/// What a person has set stands there as it was set.
+std::string setNumber(double value) {
+    return number(value, 6);
 }
 
 std::string ohms(double value) {
@@ -71,8 +87,44 @@ std::string sideOf(const Impedances& impedances) {
                : say({", secondary ohms", ", вторичные омы"});
 }
 
+double degreesOf(impedance::Complex value) {
+    return std::arg(value) * 180 / std::acos(-1.0);
+}
+
+/// Where another frequency than that of the record was set.
+std::string frequencyOf(const Impedances& impedances) {
+    if (impedances.frequency == impedances.recordedFrequency)
+        return "";
+    const char* const hertz = say({" Hz", " Гц"});
+    const std::string computed =
+        say({" Computed for ", " Вычислено для "}) + setNumber(impedances.frequency) + hertz;
+    return impedances.recordedFrequency > 0
+               ? computed + say({", while the record tells ", ", в записи указано "}) +
+                     setNumber(impedances.recordedFrequency) + hertz + "."
+               : computed + say({"; the record tells no frequency.", "; в записи частота не указана."});
+}
+
+/// What a loop to earth was computed with, where that was set.
+std::string compensationOf(const Impedances& impedances, impedance::Loop loop) {
+    if (!impedances.k0 || loop > impedance::Loop::CE)
+        return "";
+    return " k0 = " + setNumber(std::abs(*impedances.k0)) + say({" at ", " под углом "}) +
+           setNumber(degreesOf(*impedances.k0)) + "°.";
+}
+
+/// How far the zones reach, where that was set.
+std::string reachesOf(const impedance::Reaches& reaches) {
+    if (reaches == impedance::Reaches())
+        return "";
+    const auto percent = [](double part) { return setNumber(100 * part); };
+    return say({" They reach over ", " Они охватывают "}) + percent(reaches.zone1) + ", " +
+           percent(reaches.zone2) + say({" and ", " и "}) + percent(reaches.zone3) +
+           say({" % of it, zone 3 over ", " % линии, зона 3 ещё "}) + percent(reaches.backward) +
+           say({" % backward.", " % назад."});
+}
+
 std::string remarksOf(const Impedances& impedances) {
-    std::string text;
+    std::string text = frequencyOf(impedances);
     for (const std::string& remark : impedances.trajectories.remarks)
         text += " " + translated(remark);
     return text;
@@ -111,21 +163,22 @@ std::string statusOf(const Impedances& impedances, impedance::Loop loop, const L
     text += std::string(say({" No points where the loop's current is below ",
                              " Точек нет там, где ток контура меньше "})) +
             number(impedances.trajectories.minimumCurrent) + say({" A.", " А."});
-    return text + remarksOf(impedances);
+    return text + compensationOf(impedances, loop) + remarksOf(impedances);
 }
 
 std::string zonesOf(const Impedances& impedances) {
     if (impedances.line == impedance::Complex())
         return say({"The line is not known and there is no fault to go by, so there are no zones.",
                     "Линия неизвестна, и повреждения для её оценки нет, поэтому зон нет."});
-    const double degrees = std::arg(impedances.line) * 180 / std::acos(-1.0);
-    const std::string line =
-        ohms(std::abs(impedances.line)) + say({" at ", " под углом "}) + number(degrees) + "°";
+    const std::string line = ohms(std::abs(impedances.line)) + say({" at ", " под углом "}) +
+                             number(degreesOf(impedances.line)) + "°";
     if (!impedances.isLineAssumed)
-        return say({"The zones are those of a line of ", "Зоны для линии "}) + line + ".";
+        return say({"The zones are those of a line of ", "Зоны для линии "}) + line + "." +
+               reachesOf(impedances.reaches);
     return say({"The line is not known: the zones are drawn for one that ends at the fault, of ",
                 "Линия неизвестна: зоны построены для линии до места повреждения, "}) +
-           line + say({", and are no settings of a relay.", ", и не являются уставками защиты."});
+           line + say({", and are no settings of a relay.", ", и не являются уставками защиты."}) +
+           reachesOf(impedances.reaches);
 }
 
 std::string zoneName(const std::string& name) {

@@ -10,8 +10,8 @@ namespace viewer {
 
 namespace {
 
-constexpr double lineAngle = 75;  // degrees, of a line that is not known
-constexpr double linesInView = 4; // twice the reach of the third zone
+constexpr double lineAngle = 75;    // degrees, of a line that is not known
+constexpr double reachesInView = 2; // of the third zone
 constexpr double faultsInView = 2;
 constexpr double nearestInView = 2;
 constexpr double margin = 0.06; // of the larger side
@@ -46,14 +46,20 @@ bool isEmpty(const impedance::Trajectories& all) {
 
 } // namespace
 
-Impedances computeImpedances(const record::Record& record, const impedance::LineSettings& line) {
+Impedances computeImpedances(const record::Record& record, const impedance::LineSettings& line,
+                             const impedance::Reaches& reaches) {
     Impedances result;
     const impedance::Choice choice = impedance::chooseInputs(record);
     if (!choice.inputs) {
         result.problem = choice.problem;
         return result;
     }
-    const std::optional<Interval> found = findFault(record);
+    const double frequency = line.frequency > 0 ? line.frequency : record.lineFrequency;
+    result.k0 = impedance::compensation(line);
+    result.frequency = frequency;
+    result.recordedFrequency = record.lineFrequency;
+    result.reaches = reaches;
+    const std::optional<Interval> found = findFault(record, frequency);
     std::optional<impedance::Span> fault;
     if (found)
         fault = impedance::Span{found->from, found->to};
@@ -63,7 +69,6 @@ Impedances computeImpedances(const record::Record& record, const impedance::Line
         return result;
     }
 
-    const double frequency = line.frequency > 0 ? line.frequency : record.lineFrequency;
     const auto& shown = result.trajectories.of(result.trajectories.shown);
     const double inFault = fault ? sizeInFault(record, shown, *fault, 1 / frequency) : 0;
     result.line = line.z1;
@@ -71,10 +76,31 @@ Impedances computeImpedances(const record::Record& record, const impedance::Line
         result.line = impedance::fromAngle(inFault, lineAngle);
         result.isLineAssumed = true;
     }
-    const double view = std::max(linesInView * std::abs(result.line), faultsInView * inFault);
+    const double view =
+        std::max(reachesInView * reaches.zone3 * std::abs(result.line), faultsInView * inFault);
     if (view > 0)
         result.view = view;
     return result;
+}
+
+record::Record keepForImpedances(const record::Record& record) {
+    record::Record kept;
+    kept.lineFrequency = record.lineFrequency;
+    kept.rates = record.rates;
+    kept.time = record.time;
+    const impedance::Choice choice = impedance::chooseInputs(record);
+    for (std::size_t i = 0; i < record.analogs.size(); ++i) {
+        const auto measure = impedance::measureOf(record.analogs[i].unit);
+        if (!measure)
+            continue;
+        // All currents, since the fault is looked for in all of them.
+        const bool isNeeded =
+            measure->quantity == impedance::Quantity::Current || !choice.inputs ||
+            std::count(choice.inputs->voltages.begin(), choice.inputs->voltages.end(), i) > 0;
+        if (isNeeded)
+            kept.analogs.push_back(record.analogs[i]);
+    }
+    return kept;
 }
 
 void Bounds::include(double x, double y) {

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,6 +20,12 @@ struct Impedances {
     /// Of the whole line, or assumed where nobody gave it; 0 where there is nothing to assume it from.
     impedance::Complex line;
     bool isLineAssumed = false;
+    /// That the loops to earth are computed with; empty where it is not known.
+    std::optional<impedance::Complex> k0;
+    /// Hertz that they are computed for, and what the record tells; 0 where nobody tells.
+    double frequency = 0;
+    double recordedFrequency = 0;
+    impedance::Reaches reaches;
     /// Ohms up to which points are shown at any rate.
     double view = std::numeric_limits<double>::infinity();
     /// Why there is nothing to show, in a whole sentence; empty if there is something.
@@ -30,7 +37,12 @@ struct Impedances {
 ///
 /// Where the line is not known, one is assumed that ends at the fault: it has the middle one of the sizes
 /// that the impedance of the fault's loop had while the fault lasted, at 75 degrees as overhead lines have.
-Impedances computeImpedances(const record::Record& record, const impedance::LineSettings& line = {});
+Impedances computeImpedances(const record::Record& record, const impedance::LineSettings& line = {},
+                             const impedance::Reaches& reaches = {});
+
+/// The part of a record that impedances are computed from, so that they can be computed anew with other
+/// settings when the record itself has been given up: its times, its currents and its three voltages.
+record::Record keepForImpedances(const record::Record& record);
 
 /// Limits of a plane, ohms.
 struct Bounds {
@@ -65,9 +77,9 @@ struct LoopView {
 /// The part of a trajectory that is worth seeing. Before and after a fault the impedance is that of the load,
 /// tens of times that of the line, and where the current is small it runs away altogether: with all points
 /// in view the fault would be a dot. So a circle around the origin is shown, of twice the reach of the third
-/// zone, which is four times the line, and of twice the impedance of the fault where that is more. The loops
-/// that are not in the fault stay outside; so that they are no empty planes, the circle goes at least to
-/// twice the point nearest to the origin.
+/// zone, which is usually four times the line, and of twice the impedance of the fault where that is more.
+/// The loops that are not in the fault stay outside; so that they are no empty planes, the circle goes at
+/// least to twice the point nearest to the origin.
 LoopView viewOf(const Impedances& impedances, impedance::Loop loop);
 
 } // namespace viewer

@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "SettingsWords.h"
 #include "Words.h"
 #include "common/Look.h"
 #include "common/TextZoom.h"
@@ -21,7 +22,8 @@ constexpr const char* version = "0.1";
 
 } // namespace
 
-MainWindow::MainWindow(const std::string& file, const std::string& placeFile) {
+MainWindow::MainWindow(const std::string& file, const std::string& placeFile)
+    : settingsFile(placeFile), settings(settingsFile.read()) {
     examples::installLook();
     set_title(file);
     set_default_size(width, height);
@@ -43,10 +45,12 @@ MainWindow::~MainWindow() {
     hide();
 }
 
-void MainWindow::setRecord(record::Record record, Impedances impedances) {
-    const auto shared = std::make_shared<const Impedances>(std::move(impedances));
-    plane.setImpedances(shared);
-    hodograph.setImpedances(shared);
+void MainWindow::setRecord(record::Record record, Impedances computed) {
+    // What it shows of the former record says nothing of this one.
+    settingsDialog.dismiss();
+    source = keepForImpedances(record);
+    _showImpedances(std::move(computed));
+    settingsButton.set_sensitive(true);
     channels.setRecord(record);
     page.setRecord(std::move(record));
 }
@@ -73,13 +77,17 @@ void MainWindow::arrangePanels() {
 }
 
 void MainWindow::_composeBar() {
+    settingsButton.set_label(words::settings());
+    settingsButton.set_sensitive(false);
+    settingsButton.signal_clicked().connect(sigc::mem_fun(*this, &MainWindow::_onSettings));
+    settingsDialog.signalApplied.connect(sigc::mem_fun(*this, &MainWindow::_applySettings));
     arrangeButton.set_label(words::resetPanels());
     helpButton.set_label(words::help());
     aboutButton.set_label(lng::View::About::about());
     arrangeButton.signal_clicked().connect(sigc::mem_fun(*this, &MainWindow::arrangePanels));
     helpButton.signal_clicked().connect(sigc::mem_fun(*this, &MainWindow::_onHelp));
     aboutButton.signal_clicked().connect(sigc::mem_fun(*this, &MainWindow::_onAbout));
-    for (Gtk::Button* const button : {&arrangeButton, &helpButton, &aboutButton})
+    for (Gtk::Button* const button : {&settingsButton, &arrangeButton, &helpButton, &aboutButton})
         buttons.pack_start(*button, Gtk::PACK_SHRINK);
     buttons.set_margin_end(12);
 }
@@ -98,6 +106,7 @@ void MainWindow::_tiePages() {
 }
 
 void MainWindow::on_unmap() {
+    settingsDialog.dismiss();
     // While it still has a place.
     if (place)
         place->save();
@@ -126,6 +135,27 @@ void MainWindow::_onHelp() {
 
 void MainWindow::_onAbout() {
     about.show(this, words::programName(), version);
+}
+
+void MainWindow::_onSettings() {
+    settingsDialog.open(this, settings, *impedances);
+}
+
+void MainWindow::_applySettings(const ImpedanceSettings& chosen) {
+    if (chosen == settings)
+        return;
+    settings = chosen;
+    settingsFile.write(settings);
+    const impedance::Loop loop = plane.getLoop();
+    _showImpedances(computeImpedances(source, settings.line(), settings.reaches()));
+    // A person who looks at a loop goes on looking at it.
+    plane.chooseLoop(loop);
+}
+
+void MainWindow::_showImpedances(Impedances computed) {
+    impedances = std::make_shared<const Impedances>(std::move(computed));
+    plane.setImpedances(impedances);
+    hodograph.setImpedances(impedances);
 }
 
 } // namespace viewer

@@ -1,10 +1,8 @@
 #include "WindowPlace.h"
 
-#include <glibmm/fileutils.h>
-#include <glibmm/keyfile.h>
-#include <glibmm/miscutils.h>
+#include "KeyFiles.h"
 
-#include <filesystem>
+#include <glibmm/miscutils.h>
 
 namespace viewer {
 
@@ -25,13 +23,12 @@ WindowPlace::WindowPlace(Gtk::Window& givenWindow, const std::string& givenFile)
 }
 
 void WindowPlace::_load() {
+    const std::unique_ptr<Glib::KeyFile> keys = loadKeyFile(file);
     try {
-        Glib::KeyFile keys;
-        keys.load_from_file(file);
         float numbers[4] = {};
         int i = 0;
         for (const char* const key : {"x", "y", "width", "height"}) {
-            const double number = keys.get_double(group, key);
+            const double number = keys->get_double(group, key);
             if (!(number >= -largest && number <= largest))
                 return;
             numbers[i++] = static_cast<float>(number);
@@ -47,17 +44,13 @@ void WindowPlace::save() const {
     if (window.is_maximized())
         return;
     const Zel::RectangleF rectangle = manager.getRectangle();
-    Glib::KeyFile keys;
-    keys.set_double(group, "x", rectangle.x);
-    keys.set_double(group, "y", rectangle.y);
-    keys.set_double(group, "width", rectangle.width);
-    keys.set_double(group, "height", rectangle.height);
-    try {
-        std::error_code ignored;
-        std::filesystem::create_directories(std::filesystem::path(file).parent_path(), ignored);
-        keys.save_to_file(file);
-    } catch (const Glib::Error&) {
-    }
+    // Others keep what is theirs in the same file.
+    const std::unique_ptr<Glib::KeyFile> keys = loadKeyFile(file);
+    keys->set_double(group, "x", rectangle.x);
+    keys->set_double(group, "y", rectangle.y);
+    keys->set_double(group, "width", rectangle.width);
+    keys->set_double(group, "height", rectangle.height);
+    saveKeyFile(*keys, file);
 }
 
 } // namespace viewer

@@ -58,7 +58,8 @@ void ZPlanePage::_showLoop() {
                                     ? impedance::Characteristic::Mho
                                     : impedance::Characteristic::Quadrilateral;
     std::size_t color = 0;
-    for (const impedance::Zone& zone : impedance::defaultZones(_getImpedances().line, characteristic))
+    for (const impedance::Zone& zone :
+         impedance::zonesOf(_getImpedances().line, characteristic, _getImpedances().reaches))
         _addZone(zone, zoneColors[color++ % std::size(zoneColors)], bounds);
     _addTrajectory();
     bounds.addMargin();
