@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 
 namespace {
 
@@ -191,4 +192,29 @@ TEST_F(ViewerEvents, AnotherRecordRefillsTheListAndOneWithoutBinariesSaysSo) {
     EXPECT_NEAR(seen().to, 6, 1e-5);
     setRecord(record::open(DEMO_RECORD));
     EXPECT_GE(textsOf(0).size(), 10u);
+}
+
+TEST_F(ViewerEvents, AHundredThousandEventsAreAClickAwayLikeAFew) {
+    constexpr std::size_t samples = 100'001;
+    record::Record busy;
+    for (std::size_t channel = 0; channel < 20; ++channel) {
+        busy.binaries.emplace_back().name = "Contact " + std::to_string(channel + 1);
+        for (std::size_t i = 0; i < samples; ++i)
+            busy.binaries.back().samples.append((i + channel) / 20 % 2 == 1);
+    }
+    busy.time = record::TimeAxis(samples, {{1000, samples}}, {}, 1e-6);
+    const auto start = std::chrono::steady_clock::now();
+    setRecord(std::move(busy));
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+    RecordProperty("milliseconds", static_cast<int>(1000 * took.count()));
+    EXPECT_LT(took.count(), 20) << "seconds, with the painting of the oscillogram";
+    const int rows = static_cast<int>(window.events.rows.size());
+    ASSERT_NEAR(rows, 100'000, 20);
+    window.page.oscillograph.showRange(0, 1);
+    clickRow(rows / 2);
+    const double time = window.events.rows[static_cast<std::size_t>(rows) / 2].transition.time;
+    EXPECT_NEAR(seen().from, time - 0.5, 1e-3);
+    EXPECT_NEAR(seen().to, time + 0.5, 1e-3);
+    clickRow(rows - 1);
+    EXPECT_NEAR(seen().to, 100, 1e-3);
 }
