@@ -46,6 +46,37 @@ button.ToolRemoveButtonTransparent { background-image: -gtk-icontheme("list-remo
 .aboutView button.link { padding: 2px 0; }
 .recordValueMargin { margin-right: 6px; }
 .dialogButton { min-width: 72px; }
+
+.leftMarginM1 { margin-left: -1px; }
+.topMarginM1 { margin-top: -1px; }
+label.standartSmallContentMargin { padding: 4px 8px; }
+.tableScrolledCell > border { background-color: @theme_base_color; }
+.TableHeaderCellView > border { background-color: mix(@theme_bg_color, @borders, 0.4); }
+.TableHeaderCellView label { font-weight: bold; }
+.SelectionFrame > border { background-color: @theme_base_color; }
+.Selected .SelectionFrame > border { background-color: @theme_selected_bg_color; }
+.Selected .SelectionContent { color: @theme_selected_fg_color; }
+.ArrowDownImage, .ArrowRightImage {
+    min-width: 16px;
+    min-height: 16px;
+    padding: 3px;
+    background-position: center;
+    background-repeat: no-repeat;
+    background-size: 16px 16px;
+}
+.ArrowDownImage { background-image: -gtk-icontheme("pan-down-symbolic"); }
+.ArrowRightImage { background-image: -gtk-icontheme("pan-end-symbolic"); }
+.ExpandAreaContainer { padding: 4px 0 8px 22px; }
+.ExpandAreaContainer > border { border: none; }
+.stateOkContainer { background-color: alpha(@success_color, 0.3); }
+.stateErrorContainer { background-color: alpha(@error_color, 0.3); }
+.stateUndefinedContainer { background-color: alpha(@borders, 0.5); }
+.stateOkContainer, .stateErrorContainer, .stateUndefinedContainer { padding: 4px; border-radius: 4px; }
+.RoundFrame { padding: 2px; }
+.RoundFrame > border { border-radius: 12px; border-color: alpha(currentColor, 0.6); }
+.RoundFrame label { min-width: 18px; font-weight: bold; }
+frame.empty > border { border-style: dashed; }
+.EmptyView { min-height: 16px; }
 )css";
 
 } // namespace

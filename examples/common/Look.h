@@ -3,10 +3,10 @@
 
 namespace examples {
 
-/// Gives windows with a bar of their own, panels, actions and the about window their look, with pictures that
-/// Gtk brings along, for the whole screen and as long as the program runs. It leaves the last word to the
-/// user's own settings. A second call changes nothing. An application with a theme of its own loads that
-/// instead.
+/// Gives windows with a bar of their own, panels, actions, the about window, collections and containers their
+/// look, with pictures that Gtk brings along, for the whole screen and as long as the program runs. It leaves
+/// the last word to the user's own settings. A second call changes nothing. An application with a theme of
+/// its own loads that instead.
 void installLook();
 
 } // namespace examples

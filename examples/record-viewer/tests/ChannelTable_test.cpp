@@ -37,11 +37,10 @@ protected:
 
     std::vector<std::string> rows(ChannelTable& shown) {
         std::vector<std::string> all;
-        for (const Gtk::TreeModel::Row& row : shown.view.get_model()->children()) {
-            const Glib::ustring name = row[shown.columns.name];
-            const Glib::ustring unit = row[shown.columns.unit];
-            const Glib::ustring values = row[shown.columns.values];
-            all.push_back(std::to_string(row[shown.columns.number]) + "|" + name + "|" + unit + "|" + values);
+        for (const Gtk::TreeModel::Row& row : shown.list.get_model()->children()) {
+            std::string& line = all.emplace_back();
+            for (const Gtk::TreeModelColumn<std::string>& column : shown.list.getColumns().texts)
+                line += (line.empty() ? "" : "|") + row.get_value(column);
         }
         return all;
     }
@@ -73,7 +72,7 @@ TEST_F(ChannelTableTest, AClickOnTheHeadOfAColumnSortsByIt) {
     table.setRecord(makeRecord());
     test::OffscreenHost host(table, 400, 300);
     const auto numbersAfter = [&](int column) {
-        table.view.get_column(column)->clicked();
+        table.list.get_column(column)->clicked();
         std::string numbers;
         for (const std::string& row : rows(table))
             numbers += row[0];
@@ -86,13 +85,28 @@ TEST_F(ChannelTableTest, AClickOnTheHeadOfAColumnSortsByIt) {
     // Also what comes later.
     table.setRecord(makeRecord());
     EXPECT_EQ(rows(table).front(), "1|UA|kV|-63.5 … 63");
+    EXPECT_EQ(rows(table).back(), "3|nothing|Hz|");
+}
+
+TEST_F(ChannelTableTest, NumbersAreSortedAsNumbers) {
+    record::Record record;
+    for (int i = 0; i < 12; ++i)
+        record.binaries.emplace_back().name = std::string(1, static_cast<char>('l' - i));
+    table.setRecord(record);
+    const auto firstAfter = [&](int column) {
+        table.list.get_column(column)->clicked();
+        return rows(table).front() + " " + rows(table).back();
+    };
+    EXPECT_EQ(firstAfter(1), "12|a||changes: 0 1|l||changes: 0");
+    EXPECT_EQ(firstAfter(0), "1|l||changes: 0 12|a||changes: 0");
+    EXPECT_EQ(firstAfter(0), "12|a||changes: 0 1|l||changes: 0");
 }
 
 TEST_F(ChannelTableTest, SpeaksTheLanguage) {
-    EXPECT_EQ(table.view.get_column(3)->get_title(), "Values");
+    EXPECT_EQ(table.list.get_column(3)->get_title(), "Values");
     lng::language = 1;
     ChannelTable russian;
     russian.setRecord(makeRecord());
-    EXPECT_EQ(russian.view.get_column(1)->get_title(), "Канал");
+    EXPECT_EQ(russian.list.get_column(1)->get_title(), "Канал");
     EXPECT_EQ(rows(russian).back(), "4|Trip||изменений: 3");
 }

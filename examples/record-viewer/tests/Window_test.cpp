@@ -42,7 +42,8 @@ protected:
         for (const auto& [widget, letter] : {std::pair<Gtk::Widget*, const char*>{&window.page, "O"},
                                              {&window.hodograph, "H"},
                                              {&window.plane, "Z"},
-                                             {&window.channels, "C"}})
+                                             {&window.channels, "C"},
+                                             {&window.events, "E"}})
             if (widget->get_mapped())
                 all += letter;
         return all;
@@ -126,7 +127,7 @@ TEST_F(ViewerWindow, StaysHiddenUntilItIsShownAndThenHasItsButtons) {
     for (Gtk::Button* const button :
          {&window.settingsButton, &window.arrangeButton, &window.helpButton, &window.aboutButton})
         EXPECT_TRUE(button->get_mapped());
-    expectSeen(window, "OHC");
+    expectSeen(window, "OHCE");
     window.hide();
     test::settle();
     window.show();
@@ -139,14 +140,14 @@ TEST_F(ViewerWindow, ShowsTheRecordInPanelsWithRoomForAll) {
     MainWindow window("test");
     showDemo(window);
     show(window);
-    for (const char* const title : {"Oscillogram", "Hodograph", "Z plane", "Channels"}) {
+    for (const char* const title : {"Oscillogram", "Hodograph", "Z plane", "Channels", "Events"}) {
         test::clickTab(window, title);
         const Zel::PanelView& panel = test::panelOf(window, title);
         EXPECT_GE(panel.get_allocated_width(), 400) << title;
         EXPECT_GE(panel.get_allocated_height(), 140) << title;
     }
-    expectSeen(window, "OZC");
-    EXPECT_EQ(window.channels.model->children().size(), 18u);
+    expectSeen(window, "OZCE");
+    EXPECT_EQ(window.channels.list.get_model()->children().size(), 18u);
 }
 
 TEST_F(ViewerWindow, AClosedPanelLeavesTheOthersAndKeepsWhatItShows) {
@@ -154,17 +155,17 @@ TEST_F(ViewerWindow, AClosedPanelLeavesTheOthersAndKeepsWhatItShows) {
     showDemo(window);
     show(window);
     press(test::panelOf(window, "Channels").btnClose);
-    expectSeen(window, "OH");
+    expectSeen(window, "OHE");
     test::clickTab(window, "Z plane");
     press(test::panelOf(window, "Hodograph").btnClose);
-    expectSeen(window, "OZ");
+    expectSeen(window, "OZE");
 
     // The same again and then a record without impedances, while they are closed.
     showDemo(window);
-    expectSeen(window, "OZ");
+    expectSeen(window, "OZE");
     test::click(window.arrangeButton);
-    expectSeen(window, "OHC");
-    EXPECT_EQ(window.channels.model->children().size(), 18u);
+    expectSeen(window, "OHCE");
+    EXPECT_EQ(window.channels.list.get_model()->children().size(), 18u);
     EXPECT_EQ(window.hodograph.hodograph.series.size(), 1u);
 
     press(test::panelOf(window, "Channels").btnClose);
@@ -173,28 +174,28 @@ TEST_F(ViewerWindow, AClosedPanelLeavesTheOthersAndKeepsWhatItShows) {
     viewer::Impedances none = viewer::computeImpedances(small);
     window.setRecord(std::move(small), std::move(none));
     test::settle();
-    expectSeen(window, "OH");
+    expectSeen(window, "OHE");
     EXPECT_TRUE(window.hodograph.problem.get_mapped());
     test::click(window.arrangeButton);
-    expectSeen(window, "OHC");
-    EXPECT_EQ(window.channels.model->children().size(), 1u);
+    expectSeen(window, "OHCE");
+    EXPECT_EQ(window.channels.list.get_model()->children().size(), 1u);
     EXPECT_TRUE(window.hodograph.problem.get_mapped());
     showDemo(window);
     EXPECT_FALSE(window.hodograph.problem.get_mapped());
-    EXPECT_EQ(window.channels.model->children().size(), 18u);
+    EXPECT_EQ(window.channels.list.get_model()->children().size(), 18u);
 }
 
 TEST_F(ViewerWindow, AllPanelsMayBeClosedAndComeBack) {
     MainWindow window("test");
     showDemo(window);
     show(window);
-    for (const char* const title : {"Oscillogram", "Hodograph", "Channels", "Z plane"})
+    for (const char* const title : {"Oscillogram", "Hodograph", "Channels", "Z plane", "Events"})
         press(test::panelOf(window, title).btnClose);
     expectSeen(window, "");
     test::click(window.arrangeButton);
-    expectSeen(window, "OHC");
+    expectSeen(window, "OHCE");
     test::clickTab(window, "Z plane");
-    expectSeen(window, "OZC");
+    expectSeen(window, "OZCE");
 }
 
 TEST_F(ViewerWindow, APanelInAWindowOfItsOwnComesBackEvenWhenThatIsClosed) {
@@ -204,22 +205,22 @@ TEST_F(ViewerWindow, APanelInAWindowOfItsOwnComesBackEvenWhenThatIsClosed) {
     press(test::panelOf(window, "Channels").btnToWindow);
     EXPECT_TRUE(test::waitFor([] { return findWindow("Channels") != nullptr; }));
     EXPECT_EQ(window.channels.get_toplevel(), findWindow("Channels"));
-    expectSeen(window, "OHC");
+    expectSeen(window, "OHCE");
 
     test::present(window);
     test::click(window.arrangeButton);
     EXPECT_EQ(findWindow("Channels"), nullptr);
     EXPECT_EQ(window.channels.get_toplevel(), &window);
-    expectSeen(window, "OHC");
+    expectSeen(window, "OHCE");
 
     press(test::panelOf(window, "Channels").btnToWindow);
     ASSERT_TRUE(test::waitFor([] { return findWindow("Channels") != nullptr; }));
     test::wait(200);
     test::closeByManager(*findWindow("Channels"));
-    expectSeen(window, "OH");
+    expectSeen(window, "OHE");
     test::present(window);
     test::click(window.arrangeButton);
-    expectSeen(window, "OHC");
+    expectSeen(window, "OHCE");
 }
 
 TEST_F(ViewerWindow, APanelIsDraggedByItsTitle) {
@@ -245,7 +246,7 @@ TEST_F(ViewerWindow, APanelIsDraggedByItsTitle) {
     test::releaseButton();
     EXPECT_TRUE(test::waitFor([&] { return panel.get_parent() == target.get_parent(); }));
     test::wait(300);
-    expectSeen(window, "OHC");
+    expectSeen(window, "OHCE");
     int below = 0;
     int ignored = 0;
     target.translate_coordinates(panel, 0, 0, ignored, below);
@@ -273,9 +274,10 @@ TEST_F(ViewerWindow, WhatIsDraggedInAPanelLeavesThePanelWhereItIs) {
     expectNoDrag(window.page.oscillograph, "Oscillogram", 400);
     expectNoDrag(window.hodograph.hodograph, "Hodograph", 100);
     expectNoDrag(window.channels, "Channels", 60);
+    expectNoDrag(window.events, "Events", 60);
     test::clickTab(window, "Z plane");
     expectNoDrag(window.plane.diagram, "Z plane", 100);
-    expectSeen(window, "OZC");
+    expectSeen(window, "OZCE");
 }
 
 TEST_F(ViewerWindow, EndsTheProgramAlsoWhileAPanelFloats) {

@@ -41,61 +41,67 @@ Limits limitsOf(const std::vector<float>& samples) {
 
 } // namespace
 
-ChannelTable::Columns::Columns() {
-    add(number);
-    add(name);
-    add(unit);
-    add(values);
-    add(extent);
+ChannelTable::Row::Row(int givenNumber, const std::string& givenName, const std::string& givenUnit,
+                       const std::string& givenValues, double givenExtent)
+    : number(std::to_string(givenNumber)), name(givenName), unit(givenUnit), values(givenValues),
+      extent(givenExtent), cells{&number, &name, &unit, &values} {}
+
+ChannelTable::Row::~Row() = default;
+
+const std::vector<Zel::IView*>& ChannelTable::Row::getCells() {
+    return cells;
 }
 
-ChannelTable::ChannelTable() : model(Gtk::ListStore::create(columns)) {
-    view.set_model(model);
-    view.append_column(words::channelNumber(), columns.number);
-    view.append_column(words::channelName(), columns.name);
-    view.append_column(words::channelUnit(), columns.unit);
-    view.append_column(words::channelValues(), columns.values);
-    const Gtk::TreeModelColumnBase* const sorted[] = {&columns.number, &columns.name, &columns.unit,
-                                                      &columns.extent};
-    for (int i = 0; i < 4; ++i) {
-        view.get_column(i)->set_sort_column(*sorted[i]);
-        view.get_column(i)->set_resizable(true);
-    }
+ChannelTable::ChannelTable()
+    : numberColumn(words::channelNumber(), compareNumbers), nameColumn(words::channelName()),
+      unitColumn(words::channelUnit()), valuesColumn(words::channelValues()) {
+    list.setColumns({&numberColumn, &nameColumn, &unitColumn, &valuesColumn});
     set_policy(Gtk::POLICY_AUTOMATIC, Gtk::POLICY_AUTOMATIC);
     set_hexpand(true);
     set_vexpand(true);
-    add(view);
+    add(list);
     show_all();
 }
 
 ChannelTable::~ChannelTable() = default;
 
 void ChannelTable::setRecord(const record::Record& record) {
-    // Out of sight while it is filled, so that the view isn't told of each row.
-    view.unset_model();
-    model->clear();
+    std::list<Row> made;
     int number = 0;
     for (const record::AnalogChannel& channel : record.analogs) {
         const Limits limits = limitsOf(channel.samples);
         const Scale scale = scaleFor(channel.unit, limits.extent());
-        _addRow(++number, channel.name, scale.unit, limits.text(scale.factor), limits.extent());
+        made.emplace_back(++number, channel.name, scale.unit, limits.text(scale.factor), limits.extent());
     }
     for (const record::BinaryChannel& channel : record.binaries) {
         const auto changes = channel.samples.transitionCount();
-        _addRow(++number, channel.name, "", words::changes() + std::to_string(changes),
-                static_cast<double>(changes));
+        made.emplace_back(++number, channel.name, "", words::changes() + std::to_string(changes),
+                          static_cast<double>(changes));
     }
-    view.set_model(model);
+    std::vector<Zel::IRowPresenter*> presenters;
+    for (Row& row : made)
+        presenters.push_back(&row);
+    list.setRows(presenters);
+    _sortValuesByExtent();
+    // The former rows were in use until now.
+    rows = std::move(made);
 }
 
-void ChannelTable::_addRow(int number, const std::string& name, const std::string& unit,
-                           const std::string& values, double extent) {
-    const Gtk::TreeModel::Row row = *model->append();
-    row[columns.number] = number;
-    row[columns.name] = name;
-    row[columns.unit] = unit;
-    row[columns.values] = values;
-    row[columns.extent] = extent;
+// The texts alone don't tell which of two values is larger, since their prefixes stand in another column. The
+// list has a new model after each filling, to which this has to be said again.
+void ChannelTable::_sortValuesByExtent() {
+    const auto sort = Glib::RefPtr<Gtk::TreeModelSort>::cast_dynamic(list.get_model());
+    const Zel::VirtualizationListView::TreeColumns& columns = list.getColumns();
+    const auto extentOf = [presenter = columns.rowPresenter](const Gtk::TreeModel::iterator& row) {
+        const auto* const found = static_cast<const Row*>(row->get_value(presenter));
+        return found ? found->extent : 0;
+    };
+    sort->set_sort_func(columns.texts[3], [extentOf](const Gtk::TreeModel::iterator& left,
+                                                     const Gtk::TreeModel::iterator& right) {
+        const double a = extentOf(left);
+        const double b = extentOf(right);
+        return a < b ? -1 : a > b ? 1 : 0;
+    });
 }
 
 } // namespace viewer

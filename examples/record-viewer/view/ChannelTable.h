@@ -1,12 +1,14 @@
 #pragma once
 
+#include "TextColumn.h"
 #include "reader/Record.h"
 
+#include <ZelCommonView/collections/VirtualizationListView.h>
 #include <ZelCommonView/presentation/ViewPresenter.h>
 
-#include <gtkmm/liststore.h>
 #include <gtkmm/scrolledwindow.h>
-#include <gtkmm/treeview.h>
+
+#include <list>
 
 namespace viewer {
 
@@ -21,23 +23,32 @@ public:
     void setRecord(const record::Record& record);
 
 private:
-    struct Columns : Gtk::TreeModel::ColumnRecord {
-        Columns();
+    class Row : public Zel::IRowPresenter {
+    public:
+        Row(int number, const std::string& name, const std::string& unit, const std::string& values,
+            double extent);
+        ~Row() override;
 
-        Gtk::TreeModelColumn<int> number; ///< from 1, analogs first
-        Gtk::TreeModelColumn<Glib::ustring> name;
-        Gtk::TreeModelColumn<Glib::ustring> unit;
-        Gtk::TreeModelColumn<Glib::ustring> values;
-        Gtk::TreeModelColumn<double>
-            extent; ///< by which the values are sorted: largest deviation from 0 as recorded
+        const std::vector<Zel::IView*>& getCells() override;
+
+        Zel::CellDataView number; ///< from 1, analogs first
+        Zel::CellDataView name;
+        Zel::CellDataView unit;
+        Zel::CellDataView values;
+        double extent; ///< by which the values are sorted: largest deviation from 0 as recorded
+
+    private:
+        std::vector<Zel::IView*> cells;
     };
 
-    void _addRow(int number, const std::string& name, const std::string& unit, const std::string& values,
-                 double extent);
+    void _sortValuesByExtent();
 
-    Columns columns;
-    Glib::RefPtr<Gtk::ListStore> model;
-    Gtk::TreeView view;
+    TextColumn numberColumn;
+    TextColumn nameColumn;
+    TextColumn unitColumn;
+    TextColumn valuesColumn;
+    std::list<Row> rows; ///< the list points at them
+    Zel::VirtualizationListView list;
 };
 
 } // namespace viewer

@@ -1,16 +1,11 @@
 #pragma once
 
+#include "Interval.h"
 #include "reader/Record.h"
 
 #include <optional>
 
 namespace viewer {
-
-/// A stretch of time, seconds on the record's axis.
-struct Interval {
-    double from = 0;
-    double to = 0;
-};
 
 /// The stretch in which a current is far above what it was at the record's beginning: the root mean square
 /// over one cycle, as measured on the sliding window that ends at each sample, above twice that of the first

@@ -12,7 +12,6 @@ ImpedancePage::ImpedancePage() : Gtk::Box(Gtk::ORIENTATION_VERTICAL) {
     for (std::size_t i = 0; i < impedance::loopCount; ++i)
         loops.append(impedance::name(static_cast<impedance::Loop>(i)));
     loops.set_active(0);
-    loops.set_sensitive(false);
     loopConnection = loops.signal_changed().connect(sigc::mem_fun(*this, &ImpedancePage::_onLoopChanged));
     choices.pack_start(loopLabel, Gtk::PACK_SHRINK);
     choices.pack_start(loops, Gtk::PACK_SHRINK);
@@ -25,7 +24,10 @@ ImpedancePage::ImpedancePage() : Gtk::Box(Gtk::ORIENTATION_VERTICAL) {
     status.set_line_wrap(true);
     status.set_xalign(0);
     status.property_margin() = 4;
-    pack_start(choices, Gtk::PACK_SHRINK);
+    // The form gives the choices to a person, so that what there is nothing to choose from is shut behind it.
+    form.add(choices);
+    _letChooseLoop();
+    pack_start(form, Gtk::PACK_SHRINK);
     pack_start(stack, Gtk::PACK_EXPAND_WIDGET);
     pack_start(status, Gtk::PACK_SHRINK);
     set_hexpand(true);
@@ -44,6 +46,12 @@ void ImpedancePage::setImpedances(std::shared_ptr<const Impedances> value) {
 
 void ImpedancePage::chooseLoop(impedance::Loop chosen) {
     loops.set_active(static_cast<int>(chosen));
+}
+
+void ImpedancePage::setIsLocked(bool value) {
+    form.setIsReadOnly(value);
+    // Lifting the lock gives back everything, also the choice among loops that can't be shown.
+    _letChooseLoop();
 }
 
 void ImpedancePage::_setPlane(Gtk::Widget& plane) {
@@ -65,11 +73,15 @@ void ImpedancePage::_refresh() {
     for (Gtk::Widget* const child : stack.get_children())
         if ((child != &problem) == isShown)
             stack.set_visible_child(*child);
-    loops.set_sensitive(isShown);
+    _letChooseLoop();
     problem.set_text(words::problemOf(*impedances));
     const std::string remark = isShown ? _getRemark() : "";
     status.set_text(
         !isShown ? "" : words::statusOf(*impedances, loop, view) + (remark.empty() ? "" : " " + remark));
+}
+
+void ImpedancePage::_letChooseLoop() {
+    loops.set_sensitive(impedances && impedances->problem.empty() && !form.getIsReadOnly());
 }
 
 } // namespace viewer

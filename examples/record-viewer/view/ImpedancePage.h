@@ -2,6 +2,7 @@
 
 #include "Impedances.h"
 
+#include <ZelCommonView/containers/ReadOnlySwitchableContainer.h>
 #include <ZelCommonView/presentation/ViewPresenter.h>
 
 #include <gtkmm/box.h>
@@ -32,6 +33,10 @@ public:
     /// Shows a loop; one that is shown already changes nothing.
     void chooseLoop(impedance::Loop chosen);
 
+    /// Keeps a person from all choices, or lets them choose again; at first they may. A choice with the style
+    /// class "readonly-exempt" stays usable.
+    void setIsLocked(bool value);
+
 protected:
     ImpedancePage();
 
@@ -55,13 +60,15 @@ protected:
 private:
     void _onLoopChanged();
     void _refresh();
+    void _letChooseLoop();
 
     std::shared_ptr<const Impedances> impedances; ///< null before the first record
     LoopView view;
     impedance::Loop loop = impedance::Loop::AE;
     Gtk::Label loopLabel;
     Gtk::ComboBoxText loops;
-    Gtk::Stack stack; ///< the plane or the problem
+    Zel::ReadOnlySwitchableContainer form; ///< around the choices
+    Gtk::Stack stack;                      ///< the plane or the problem
     Gtk::Label problem;
     Gtk::Label status;
     sigc::connection loopConnection;

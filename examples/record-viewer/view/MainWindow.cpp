@@ -33,7 +33,7 @@ MainWindow::MainWindow(const std::string& file, const std::string& placeFile)
     arrangePanels();
     _tiePages();
     for (Gtk::Widget* const content :
-         std::initializer_list<Gtk::Widget*>{&page, &hodograph, &plane, &channels})
+         std::initializer_list<Gtk::Widget*>{&page, &hodograph, &plane, &channels, &events})
         content->signal_button_press_event().connect(sigc::mem_fun(*this, &MainWindow::_onContentPress),
                                                      false);
     signal_key_press_event().connect(sigc::mem_fun(*this, &MainWindow::_onKeyPress), false);
@@ -52,6 +52,7 @@ void MainWindow::setRecord(record::Record record, Impedances computed) {
     _showImpedances(std::move(computed));
     settingsButton.set_sensitive(true);
     channels.setRecord(record);
+    events.setRecord(record);
     page.setRecord(std::move(record));
 }
 
@@ -60,17 +61,20 @@ void MainWindow::arrangePanels() {
     // With the former manager go its panels and the windows of those that float.
     panels.reset();
     panels = std::make_unique<Zel::PanelManagerPresenter>();
+    // The tables first, so that they have the whole width below all others.
     Zel::IPanelView* const left = panels->newPanel(words::oscillogram(), Positions::Left, page, nullptr);
-    Zel::IPanelView* const right = panels->newPanel(words::hodograph(), Positions::Right, hodograph, nullptr);
+    Zel::IPanelView* const below = panels->newPanel(words::channels(), Positions::Bottom, channels, left);
+    Zel::IPanelView* const beside = panels->newPanel(words::events(), Positions::Right, events, below);
+    Zel::IPanelView* const right = panels->newPanel(words::hodograph(), Positions::Right, hodograph, left);
     Zel::IPanelView* const tab = panels->newPanel(words::zPlane(), Positions::Center, plane, right);
-    Zel::IPanelView* const below = panels->newPanel(words::channels(), Positions::Bottom, channels, right);
-    for (Zel::IPanelView* const panel : {left, right, tab, below})
+    for (Zel::IPanelView* const panel : {left, right, tab, below, beside})
         panel->setProperties(true, true);
     // The dividers stand where these sizes put them.
-    left->setSize(640, 400);
-    right->setSize(420, 360);
-    tab->setSize(420, 360);
-    below->setSize(420, 140);
+    left->setSize(640, 440);
+    right->setSize(420, 440);
+    tab->setSize(420, 440);
+    below->setSize(530, 100);
+    beside->setSize(530, 100);
     Gtk::Widget& view = *Zel::GtkWidgetHelper::getWidget(panels->getView());
     add(view);
     view.show_all();
@@ -103,6 +107,8 @@ void MainWindow::_tiePages() {
     hodograph.signalLoopChosen.connect(sigc::mem_fun(plane, &ZPlanePage::chooseLoop));
     plane.signalLoopChosen.connect(sigc::mem_fun(hodograph, &HodographPage::chooseLoop));
     hodograph.signalTimeChanged.connect(sigc::mem_fun(plane, &ZPlanePage::showTime));
+    hodograph.signalLockChanged.connect(sigc::mem_fun(plane, &ZPlanePage::setIsLocked));
+    events.signalTimeChosen.connect(sigc::mem_fun(page, &RecordPage::centreOn));
 }
 
 void MainWindow::on_unmap() {

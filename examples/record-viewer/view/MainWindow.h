@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ChannelTable.h"
+#include "EventList.h"
 #include "HodographPage.h"
 #include "RecordPage.h"
 #include "SettingsDialog.h"
@@ -21,10 +22,11 @@
 
 namespace viewer {
 
-/// The viewer's window: one record in four panels, which are empty until it is read and which a person
+/// The viewer's window: one record in five panels, which are empty until it is read and which a person
 /// arranges by their titles, closes and brings back at will. Both panels of impedances show the same loop,
-/// and the dot in the Z plane stands where the replay of the hodograph does. F1 opens the help; Ctrl with
-/// plus, minus, 0 or the wheel changes the size of the text.
+/// and the dot in the Z plane stands where the replay of the hodograph does. An event that is chosen stands
+/// in the middle of the oscillogram. F1 opens the help; Ctrl with plus, minus, 0 or the wheel changes the
+/// size of the text.
 class MainWindow : public Zel::Window, public Zel::IView {
 public:
     /// The title names the record's file. Place, size and settings are kept in `placeFile`; an empty name
@@ -45,6 +47,7 @@ public:
     HodographPage hodograph;
     ZPlanePage plane;
     ChannelTable channels;
+    EventList events;
 
 protected:
     void on_show() override;

@@ -86,6 +86,14 @@ void RecordPage::setRecord(record::Record record) {
         status.set_text(summary);
 }
 
+void RecordPage::centreOn(double time) {
+    double from = 0;
+    double to = 0;
+    oscillograph.getSeriesRange(from, to);
+    const Interval seen = centred({from, to}, time, oscillogram.duration);
+    oscillograph.showRange(static_cast<float>(seen.from), static_cast<float>(seen.to));
+}
+
 void RecordPage::_showRange(float from, float to) {
     std::ostringstream text;
     text << std::fixed << std::setprecision(4) << summary << "  |  " << words::shown() << " " << from << " – "

@@ -22,6 +22,10 @@ public:
     /// Shows this record in place of the former one, from its beginning to its end.
     void setRecord(record::Record record);
 
+    /// Brings a time, in seconds from the earliest sample, to the middle of what is seen, which keeps its
+    /// length. Near the ends of the record as close to the middle as they allow.
+    void centreOn(double time);
+
 private:
     void _showRange(float from, float to);
     void _growBinaryArea(std::size_t rows);

@@ -27,14 +27,10 @@ Zel::Color colorOf(std::size_t position) {
     return palette[position % palette.size()];
 }
 
-std::string nameOf(const std::string& name, const std::string& phase) {
-    return phase.empty() || name.find(phase) != std::string::npos ? name : name + " (" + phase + ")";
-}
-
 std::unique_ptr<Zel::Series> makeCurve(record::AnalogChannel& channel, const record::TimeAxis& time,
                                        double start = 0) {
     auto series = std::make_unique<Zel::Series>();
-    series->name = nameOf(channel.name, channel.phase);
+    series->name = signalName(channel.name, channel.phase);
     series->points.reserve(channel.samples.size());
     for (std::size_t i = 0; i < channel.samples.size(); ++i)
         if (std::isfinite(channel.samples[i]))
@@ -47,7 +43,7 @@ std::unique_ptr<Zel::Series> makeRow(const record::BinaryChannel& channel, const
                                      double start = 0) {
     auto series = std::make_unique<Zel::Series>();
     series->type = Zel::SeriesType::Binary;
-    series->name = nameOf(channel.name, channel.phase);
+    series->name = signalName(channel.name, channel.phase);
     const auto add = [&](std::size_t position) {
         series->points.push_back(
             {static_cast<float>(time.at(position) - start), channel.samples[position] ? 1.0f : 0.0f});
@@ -103,6 +99,10 @@ Quantity upperQuantity(const record::Record& record) {
 }
 
 } // namespace
+
+std::string signalName(const std::string& name, const std::string& phase) {
+    return phase.empty() || name.find(phase) != std::string::npos ? name : name + " (" + phase + ")";
+}
 
 std::vector<Section> makeSections(record::Record& record) {
     std::vector<Section> sections;

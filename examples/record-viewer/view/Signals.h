@@ -23,6 +23,9 @@ struct Section {
     float xMax = 1;
 };
 
+/// The name of a channel, with its phase unless the name has it already.
+std::string signalName(const std::string& name, const std::string& phase);
+
 /// The sections of a record: one for each unit in the order in which units appear, then the binaries, a few
 /// hundred to a section. The samples of the record are given up channel by channel, so that they are not held
 /// twice.

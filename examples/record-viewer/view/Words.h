@@ -110,6 +110,38 @@ inline const char* changes() {
     return ar[lng::index()];
 }
 
+inline const char* events() {
+    static const char* const ar[] = {"Events", "События"};
+    return ar[lng::index()];
+}
+
+inline const char* eventTime() {
+    static const char* const ar[] = {"Time, s", "Время, с"};
+    return ar[lng::index()];
+}
+
+inline const char* eventState() {
+    static const char* const ar[] = {"State", "Состояние"};
+    return ar[lng::index()];
+}
+
+inline const char* noBinaries() {
+    static const char* const ar[] = {"The record has no binary channels.",
+                                     "В записи нет дискретных каналов."};
+    return ar[lng::index()];
+}
+
+inline const char* noChanges() {
+    static const char* const ar[] = {"No binary channel of the record changes.",
+                                     "Ни один дискретный канал записи не меняется."};
+    return ar[lng::index()];
+}
+
+inline const char* lockWhileReplaying() {
+    static const char* const ar[] = {"Lock while replaying", "Запереть при показе"};
+    return ar[lng::index()];
+}
+
 inline const char* resetPanels() {
     static const char* const ar[] = {"Reset panels", "Вернуть панели"};
     return ar[lng::index()];
