@@ -10,10 +10,8 @@ GalleryWindow::GalleryWindow(const std::string& firstPage) {
     set_title(words("Gallery of widgets", "Галерея виджетов"));
     set_default_size(1200, 760);
 
-    for (const Page& page : allPages()) {
-        PageView& view = views.emplace_back(page);
-        stack.add(view, page.name, page.getTitle());
-    }
+    for (const Page& page : allPages())
+        stack.add(places.emplace_back(), page.name, page.getTitle());
     sidebar.set_stack(stack);
     box.pack_start(sidebar, Gtk::PACK_SHRINK);
     box.pack_start(stack, Gtk::PACK_EXPAND_WIDGET);
@@ -23,6 +21,16 @@ GalleryWindow::GalleryWindow(const std::string& firstPage) {
     // Only a visible child can be chosen.
     if (!firstPage.empty())
         stack.set_visible_child(firstPage);
+    _makePage();
+    stack.property_visible_child().signal_changed().connect(sigc::mem_fun(*this, &GalleryWindow::_makePage));
+}
+
+void GalleryWindow::_makePage() {
+    auto* const place = dynamic_cast<Gtk::Box*>(stack.get_visible_child());
+    if (!place || !place->get_children().empty())
+        return;
+    place->pack_start(views.emplace_back(*findPage(getPageName())), Gtk::PACK_EXPAND_WIDGET);
+    place->show_all();
 }
 
 } // namespace gallery

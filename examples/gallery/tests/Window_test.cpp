@@ -32,6 +32,17 @@ TEST(GalleryWindow, NamesEveryPageAtTheSideInTheCurrentLanguage) {
     lng::language = 0;
 }
 
+TEST(GalleryWindow, MakesAPageWhenItIsOpened) {
+    GalleryWindow window("");
+    EXPECT_EQ(window.views.size(), 1u);
+    const std::string first = window.getPageName();
+    window.stack.set_visible_child("words");
+    EXPECT_EQ(window.views.size(), 2u);
+    window.stack.set_visible_child(first);
+    EXPECT_EQ(window.views.size(), 2u);
+    EXPECT_EQ(GalleryWindow("words").views.size(), 1u);
+}
+
 TEST(GalleryWindow, AllPagesLiveInOneWindow) {
     int finalised = 0;
     for (int i = 0; i < 5; ++i) {
@@ -39,6 +50,8 @@ TEST(GalleryWindow, AllPagesLiveInOneWindow) {
         g_object_weak_ref(
             G_OBJECT(window.gobj()), [](gpointer count, GObject*) { ++*static_cast<int*>(count); },
             &finalised);
+        for (const gallery::Page& page : allPages())
+            window.stack.set_visible_child(page.name);
         EXPECT_EQ(window.views.size(), allPages().size());
     }
     EXPECT_EQ(finalised, 5);
