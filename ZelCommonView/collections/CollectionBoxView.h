@@ -21,11 +21,13 @@ public:
     /// Puts a child at a place, counted from 0, shown with all that is in it; at the end if there are fewer
     /// children.
     virtual void insertChild(unsigned long index, IView& view) = 0;
+    /// Takes a child out.
     virtual void removeChild(IView& view) = 0;
     /// Moves a child to a place, counted from 0; to the end if there are fewer children.
     virtual void moveChild(unsigned long index, IView& view) = 0;
     /// A row if true, a column, which is the default, if false.
     virtual void setIsHorizontalOrientation(bool value) = 0;
+    /// Whether the children stand in a row.
     virtual bool getIsHorizontalOrientation() = 0;
 };
 

@@ -20,7 +20,9 @@ public:
                        bool contentIsInteractive);
     ~SelectionPresenter() override;
 
+    /// What the application gave along.
     Object* getContext() const;
+    /// The presenter of what the item shows; it stays the item's. Null if there is none.
     IPresenter* getContentPresenter() const;
 
     /// Selects the item, see `ISelectionView::setIsSelected`. Before there is a view the value waits for it,

@@ -23,12 +23,14 @@ public:
 
     /// The item's presenter, which the item only keeps; null at the beginning.
     virtual void setContext(IPresenter* presenter) = 0;
+    /// The item's presenter.
     virtual IPresenter* getContext() = 0;
     /// Puts in what the item shows, which stays its presenter's; null and what is no widget are ignored.
     virtual void setContent(IView* content) = 0;
     /// Selects the item, or makes it give up the selection after its manager has moved on: a selected item
     /// can't be unselected from here. Without a manager above it nothing happens.
     virtual void setIsSelected(bool value) = 0;
+    /// Whether the item is the selected one.
     virtual bool getIsSelected() = 0;
 
 private:

@@ -17,6 +17,7 @@ public:
     TableCellPresenter(const std::string& title, bool isHeader, bool horizontalExpand, unsigned long colspan);
     ~TableCellPresenter() override;
 
+    /// The number of columns that the cell shall cover.
     unsigned long getColspan() const;
 
 protected:

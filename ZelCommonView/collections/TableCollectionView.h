@@ -15,6 +15,7 @@ class ZEL_API ITableCollectionView : public virtual IView {
 public:
     ~ITableCollectionView() override;
 
+    /// Lays out the row above all others. To be called once, before the rows.
     virtual void setHeader(const std::vector<IView*>& cells) = 0;
     /// Lays a row at the index, which is meant to be the end: cells at an index in use lie over the old ones.
     virtual void addRow(unsigned long index, const std::vector<IView*>& cells) = 0;

@@ -20,6 +20,7 @@ public:
     /// Fires after each change of the selection, by a person or a call. A listener may delete the view.
     sigc::signal<void>& signalSelectionChanged();
 
+    /// Whether the titles of the columns are to be seen, as at first.
     virtual void showHeader(bool value) = 0;
     /// Any number of rows at once if true; one row, which can't be unselected by a person, if false.
     virtual void setMultiSelection(bool value) = 0;
@@ -84,6 +85,7 @@ public:
     /// Adds rows before the one at the index, in their order, as `setRows` does; the others stay.
     void addRows(unsigned long index, const std::vector<IRowPresenter*>& presenters);
 
+    /// The columns of the model.
     const TreeColumns& getColumns() const;
 
 private:

@@ -26,6 +26,7 @@ public:
     /// already is no exception: the signal fires each time. Without content and arrow only the value is
     /// stored, to take effect when `add` brings a content.
     void set_expanded(bool value);
+    /// What was set last, or by the last click.
     bool get_expanded() const;
 
     /// Fires after each `set_expanded`, `add`, `remove` and `showArrow` that did not end without an arrow.

@@ -17,6 +17,7 @@ public:
 
     /// Locks the form or lifts the lock. The value that stands already does nothing.
     virtual void setIsReadOnly(bool value) = 0;
+    /// Whether the form is locked; false at first.
     virtual bool getIsReadOnly() const = 0;
 };
 

@@ -31,6 +31,7 @@ public:
     explicit SharedSizeGroup(const std::string& groupName);
     ~SharedSizeGroup() override;
 
+    /// The name that it was made with.
     const std::string& getGroupName() const;
 
 protected:

@@ -38,14 +38,17 @@ public:
     /// typed value lies outside, the cursor stays in front of each new character, and the owner is expected
     /// to put right the value that is reported. Another range shows the present value anew.
     void setValueRange(const NumericRange& range);
+    /// The limits as they were set.
     const NumericRange& getValueRange() const;
 
     /// A flag that has no effect but that a change shows the present value anew; off at first.
     void setAutoformat(bool value);
+    /// The flag.
     bool getAutoformat() const;
 
     /// The menu of the right button instead of the usual one; not owned, null for the usual one.
     void setCustomMenu(Gtk::Menu* menu);
+    /// The menu that was set; null for the usual one.
     Gtk::Menu* getCustomMenu() const;
 
 protected:

@@ -18,7 +18,9 @@ public:
     /// doesn't emit it, which is meant; it has a signal of its own.
     sigc::signal<void, bool, std::string const&> signalTextChanged;
 
+    /// Shows the text, or what the view makes of it.
     virtual void setData(std::string text) = 0;
+    /// The present text.
     virtual std::string getData() = 0;
 
     /// The menu of the right button, which stays the caller's; null for none.

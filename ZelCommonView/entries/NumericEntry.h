@@ -44,25 +44,30 @@ public:
     /// Limits and step of what can be typed; at first -1e16, 1e16 and 1e-9. A step of 0 admits any digits, a
     /// range that spans the whole of double any number. Another range shows the present value anew.
     void setValueRange(const NumericRange& range);
+    /// Limits and step as they were set.
     const NumericRange& getValueRange() const;
 
     /// Whether the text is shown with the decimals of the range while the focus is elsewhere, in the global
     /// locale of the program; off at first. It has no effect on a range with a step of 0. A step of 10 or
     /// more has no decimals of its own and shows six. A change shows the present value anew.
     void setAutoformat(bool value);
+    /// Whether the text is formatted.
     bool getAutoformat() const;
 
     /// The step of the wheel, 0.1 at first; 0 lets the wheel do nothing. What comes back is never below the
     /// step of the range unless it is 0.
     void setScrollStep(double step);
+    /// The step that the wheel takes.
     double getScrollStep() const;
 
     /// Whether the wheel also reports the value; off at first.
     void setUpdateOnScroll(bool value);
+    /// Whether the wheel also reports.
     bool getUpdateOnScroll() const;
 
     /// The menu of the right button instead of the usual one; not owned, null for the usual one.
     void setCustomMenu(Gtk::Menu* menu);
+    /// The menu that was set; null for the usual one.
     Gtk::Menu* getCustomMenu() const;
 
 protected:

@@ -24,12 +24,14 @@ public:
     /// back to Gtk. The same value again changes nothing.
     void setAutosize(bool value);
 
+    /// Whether the width follows the text.
     bool getAutosize() const { return autosize; }
 
     /// The menu that the right button shows in place of Gtk's own; null, which is the default, for Gtk's own.
     /// It stays the caller's; one that dies is forgotten.
     void setCustomMenu(Gtk::Menu* menu);
 
+    /// The menu that was set; null for Gtk's own.
     Gtk::Menu* getCustomMenu() const { return customMenu; }
 
     /// A finished edit: the text, when Tab, Return or the keypad's Enter is pressed or the focus goes, if it
