@@ -416,13 +416,16 @@ TEST_F(TimeEntryOnScreen, AClickBehindADragPlacesTheCursor) {
 
 TEST_F(TimeEntryOnScreen, ThreeClicksSelectTheWholeText) {
     start("12:34:56", 0);
-    test::wait(500);
     test::movePointer(entry, xOf(1), entry.get_allocated_height() / 2);
-    for (int i = 0; i < 3; ++i) {
-        test::pressButton();
-        test::releaseButton();
+    // On a busy machine three clicks may take too long to be one.
+    for (int attempt = 0; attempt < 5 && selection() != Place(0, 8); ++attempt) {
+        test::wait(500);
+        for (int i = 0; i < 3; ++i) {
+            test::pressButton();
+            test::releaseButton();
+        }
+        test::settle();
     }
-    test::settle();
     EXPECT_EQ(selection(), Place(0, 8));
 }
 
