@@ -25,7 +25,8 @@ add_custom_target(zel-thread-tests)
 # else gets under the pointer. LOCALES, such as de_DE.UTF-8, runs the program once more in each of these locales, as the
 # test folder.file@locale; not for PLAIN ones, and not under the sanitizers, to which a locale is nothing new. LONG is
 # for those that take memory millions of times: the address sanitizer notes where memory was taken the quick way there,
-# eight times as fast, but sees only the first steps of the way, too few to know some losses of other libraries by.
+# eight times as fast, but sees only the first steps of the way, too few to know some losses of other libraries by,
+# such as of the loader of SVG pictures.
 function(zel_add_test folder file)
   cmake_parse_arguments(TEST "PLAIN;HANDS;OWN_DISPLAY;LONG" "" "SOURCES;LIBRARIES;LABELS;LOCALES" ${ARGN})
   get_filename_component(stem ${file} NAME_WE)
