@@ -251,7 +251,7 @@ BENCHMARK(scroll)->Arg(1'000)->Arg(100'000)->Arg(1'000'000)->Iterations(200)->Un
 
 /// A form of 500 controls and as many labels in nested boxes, notebooks and scrolled areas.
 void fill(Gtk::Container& parent, int depth, int& controls) {
-    for (int i = 0; i < 10 && controls < 500; ++i, ++controls) {
+    for (int i = 0; i < 13 && controls < 500; ++i, ++controls) {
         parent.add(*Gtk::make_managed<Gtk::Label>("name"));
         if (i % 2)
             parent.add(*Gtk::make_managed<Gtk::Entry>());

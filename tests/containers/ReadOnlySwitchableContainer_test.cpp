@@ -270,7 +270,7 @@ TEST_F(ReadOnlySwitchableContainerTest, NothingAndNoWidgetAreIgnored) {
 TEST_F(ReadOnlySwitchableContainerTest, AFormOfFiveHundredControlsLocksAndUnlocks) {
     std::vector<Gtk::Widget*> controls;
     std::function<void(Gtk::Container&, int)> fill = [&](Gtk::Container& parent, int depth) {
-        for (int i = 0; i < 5; ++i) {
+        for (int i = 0; i < 7; ++i) {
             controls.push_back(&put<Gtk::Entry>(parent));
             controls.push_back(&put<Gtk::CheckButton>(parent));
             put<Gtk::Label>(parent);
@@ -286,7 +286,7 @@ TEST_F(ReadOnlySwitchableContainerTest, AFormOfFiveHundredControlsLocksAndUnlock
     };
     container.setIsReadOnly(true);
     fill(box, 3);
-    ASSERT_GE(controls.size(), 400u);
+    ASSERT_GE(controls.size(), 500u);
     for (const Gtk::Widget* const control : controls)
         ASSERT_FALSE(control->get_sensitive());
     for (const bool isReadOnly : {false, true, false}) {
