@@ -3,18 +3,21 @@
 // Both are timed by turns within one run, so that what else the machine does hits both; the ratio of the
 // medians is what counts. Target: at most 1.05.
 
+#include "Timing.h"
+
 #include <ZelCommonView/plot/CoordsConverter.h>
 #include <ZelCommonView/plot/SeriesDrawer.h>
 
 #include <benchmark/benchmark.h>
 #include <cairomm/cairomm.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <vector>
 
 namespace {
+
+using bench::median;
+using bench::secondsOf;
 
 constexpr int width = 1600;
 constexpr int height = 300;
@@ -52,19 +55,6 @@ void drawBare(cairo_t* cr, const Zel::Series& series, const ZelView::Stretchable
         cairo_move_to(cr, visualX, visualY);
     }
     cairo_stroke(cr);
-}
-
-template <typename F>
-double secondsOf(F function) {
-    const auto start = std::chrono::steady_clock::now();
-    function();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
-                     values.end());
-    return values[values.size() / 2];
 }
 
 void curve(benchmark::State& state) {

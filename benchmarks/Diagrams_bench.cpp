@@ -6,6 +6,8 @@
 // written to a file of the same size; a step of the wheel with the same points drawn on a surface of the size
 // that the diagram then has.
 
+#include "Timing.h"
+
 #include <ZelCommonView/diagrams/FiguresDrawManager.h>
 #include <ZelCommonView/diagrams/ZDiagram.h>
 
@@ -14,8 +16,6 @@
 
 #include <malloc.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -25,23 +25,13 @@
 
 namespace {
 
+using bench::median;
+using bench::secondsOf;
+
 constexpr int figuresOfAPicture = 100;
 constexpr int pictures = 50;
 constexpr int warmUp = 5;
 constexpr std::size_t pointsOfADiagram = 10000;
-
-template <typename F>
-double secondsOf(F function) {
-    const auto start = std::chrono::steady_clock::now();
-    function();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double medianOf(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
-                     values.end());
-    return values[values.size() / 2];
-}
 
 std::size_t heapInUse() {
     return mallinfo2().uordblks;
@@ -102,9 +92,9 @@ void savePictures(benchmark::State& state) {
         }
         growth = (static_cast<double>(heapInUse()) - static_cast<double>(before)) / (pictures - warmUp);
     }
-    state.counters["picture_ms"] = 1000 * medianOf(ours);
-    state.counters["bare_ms"] = 1000 * medianOf(bare);
-    state.counters["ratio"] = medianOf(ours) / medianOf(bare);
+    state.counters["picture_ms"] = 1000 * median(ours);
+    state.counters["bare_ms"] = 1000 * median(bare);
+    state.counters["ratio"] = median(ours) / median(bare);
     state.counters["bytes_kept_by_a_picture"] = growth;
     std::filesystem::remove(path);
 }
@@ -190,9 +180,9 @@ void zoomStep(benchmark::State& state) {
             drawBare(window, canvasWidth(), diagram.getDrawArea().get_allocated_height(), *sequence);
         }));
     }
-    state.counters["step_ms"] = 1000 * medianOf(ours);
-    state.counters["bare_ms"] = 1000 * medianOf(bare);
-    state.counters["ratio"] = medianOf(ours) / medianOf(bare);
+    state.counters["step_ms"] = 1000 * median(ours);
+    state.counters["bare_ms"] = 1000 * median(bare);
+    state.counters["ratio"] = median(ours) / median(bare);
     window.remove();
 }
 

@@ -3,6 +3,8 @@
 // Both sides of a ratio are run by turns within one run, each first as often as the other, so that what else
 // the machine does hits both; the ratio of the medians is what counts. Needs a display.
 
+#include "Timing.h"
+
 #include <ZelCommonView/collections/VirtualizationListView.h>
 #include <ZelCommonView/containers/ReadOnlySwitchableContainer.h>
 
@@ -11,13 +13,15 @@
 #include <malloc.h>
 
 #include <algorithm>
-#include <chrono>
 #include <deque>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace {
+
+using bench::median;
+using bench::secondsOf;
 
 using namespace Zel;
 
@@ -108,19 +112,6 @@ struct Bare {
     GtkTreeModel* sort;
     GtkWidget* view;
 };
-
-template <typename F>
-double secondsOf(F function) {
-    const auto start = std::chrono::steady_clock::now();
-    function();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
-                     values.end());
-    return values[values.size() / 2];
-}
 
 /// Two hundred rows at the end of a list of this length. Target of the ratio: at most 1.2.
 void addRowsOneByOne(benchmark::State& state) {

@@ -5,6 +5,8 @@
 // both; the ratio of the medians is what counts. For a step the baseline paints the same curves and rows
 // straight on surfaces of the same kind and size as the plots'; for a motion it paints one such picture.
 
+#include "Timing.h"
+
 #include <ZelCommonView/oscillogram/Oscillograph.h>
 #include <ZelCommonView/oscillogram/SynchronizerFacade.h>
 #include <ZelCommonView/plot/SeriesDrawer.h>
@@ -15,13 +17,15 @@
 #include <malloc.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <list>
 #include <memory>
 #include <vector>
 
 namespace {
+
+using bench::median;
+using bench::secondsOf;
 
 constexpr int width = 1920;
 constexpr int height = 1080;
@@ -135,19 +139,6 @@ struct Shown {
     ZelView::Oscillograph oscillograph;
     Gtk::Window window;
 };
-
-template <typename F>
-double secondsOf(F function) {
-    const auto start = std::chrono::steady_clock::now();
-    function();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
-                     values.end());
-    return values[values.size() / 2];
-}
 
 /// Times both by turns, each first as often as the other, and reports the medians and their ratio.
 template <typename Own, typename Bare>

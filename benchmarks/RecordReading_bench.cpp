@@ -1,6 +1,8 @@
 // Reading a long binary record, against the least that any reader must do: read the file and scale each
 // value.
 
+#include "Timing.h"
+
 #include "reader/Reader.h"
 
 #include <benchmark/benchmark.h>
@@ -20,6 +22,8 @@
 #include <unistd.h>
 
 namespace {
+
+using bench::median;
 
 namespace fs = std::filesystem;
 
@@ -110,12 +114,6 @@ Samples readBarely(const fs::path& path) {
 
 double seconds(std::chrono::steady_clock::time_point from) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
-}
-
-double median(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 /// A figure of this process in bytes, such as its resident set ("VmRSS") or the highest one so far ("VmHWM").

@@ -4,6 +4,8 @@
 // by turns within one run, so that what else the machine does hits both; the ratio of the medians is what
 // counts. Target: at most 1.05.
 
+#include "Timing.h"
+
 #include <ZelCommonView/plot/CoordsConverter.h>
 #include <ZelCommonView/plot/SingleTimedSeriesDrawer.h>
 #include <ZelCommonView/plot/TimedSeriesIteratorCalc.h>
@@ -11,14 +13,15 @@
 #include <benchmark/benchmark.h>
 #include <cairomm/cairomm.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <memory>
 #include <utility>
 #include <vector>
 
 namespace {
+
+using bench::median;
+using bench::secondsOf;
 
 constexpr int side = 800;
 constexpr std::size_t pointsOfAStep = 100;
@@ -77,19 +80,6 @@ void drawBare(cairo_t* cr, const std::vector<Zel::TimedPointF>& points,
         cairo_move_to(cr, visualX, visualY);
     }
     cairo_stroke(cr);
-}
-
-template <typename F>
-double secondsOf(F function) {
-    const auto start = std::chrono::steady_clock::now();
-    function();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
-                     values.end());
-    return values[values.size() / 2];
 }
 
 void trajectory(benchmark::State& state) {
