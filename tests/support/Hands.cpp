@@ -7,8 +7,8 @@ namespace test {
 
 void settle() {
     constexpr gint64 twoFrames = 40000;  // microseconds
-    constexpr gint64 patience = 2000000; // microseconds
-    const gint64 end = g_get_monotonic_time() + patience;
+    constexpr gint64 longest = 2000000; // microseconds
+    const gint64 end = g_get_monotonic_time() + longest;
     gint64 quietSince = g_get_monotonic_time();
     while (g_get_monotonic_time() - quietSince < twoFrames && g_get_monotonic_time() < end) {
         if (Gtk::Main::events_pending()) {
@@ -20,7 +20,9 @@ void settle() {
     }
 }
 
-bool waitFor(const std::function<bool()>& condition, int milliseconds) {
+namespace {
+
+bool runUntil(const std::function<bool()>& condition, int milliseconds) {
     const gint64 end = g_get_monotonic_time() + milliseconds * gint64{1000};
     while (!condition()) {
         if (g_get_monotonic_time() > end)
@@ -33,8 +35,14 @@ bool waitFor(const std::function<bool()>& condition, int milliseconds) {
     return true;
 }
 
+} // namespace
+
+bool waitFor(const std::function<bool()>& condition, int milliseconds) {
+    return runUntil(condition, milliseconds * patience);
+}
+
 void wait(int milliseconds) {
-    waitFor([] { return false; }, milliseconds);
+    runUntil([] { return false; }, milliseconds);
 }
 
 // What hands do waits for the display, so that the events are there when the main loop runs, however busy the

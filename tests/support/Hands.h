@@ -11,7 +11,15 @@ namespace test {
 /// for two seconds, since a replay whose pictures are slow to paint never comes to rest.
 void settle();
 
-/// Runs the main loop until the condition holds; false if it doesn't within the time.
+/// How many times longer than usual things may take: the address sanitizer makes programs slow.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int patience = 6;
+#else
+constexpr int patience = 1;
+#endif
+
+/// Runs the main loop until the condition holds; false if it doesn't within the time, and where patience is
+/// needed within so many times the time.
 bool waitFor(const std::function<bool()>& condition, int milliseconds = 5000);
 
 /// Runs the main loop for the time.

@@ -67,20 +67,21 @@ TEST_F(SettingsKeptTest, TheProgramKeepsThemInTheFolderOfTheUser) {
     test::settle();
 
     const std::string errors = folder.path / "errors";
-    FILE* const program = popen(("XDG_CONFIG_HOME='" + config.string() + "' timeout 12 '" + VIEWER + "' '" +
-                                 DEMO_RECORD + "' 2>'" + errors + "'")
-                                    .c_str(),
-                                "r");
+    FILE* const program =
+        popen(("XDG_CONFIG_HOME='" + config.string() + "' timeout " + std::to_string(12 * test::patience) +
+               " '" + VIEWER + "' '" + DEMO_RECORD + "' 2>'" + errors + "'")
+                  .c_str(),
+              "r");
     ASSERT_NE(program, nullptr);
-    test::wait(3000);
+    test::wait(3000 * test::patience);
     test::movePointer(x, y);
     test::wait(100);
     test::pressButton();
     test::releaseButton();
-    test::wait(1500);
+    test::wait(1500 * test::patience);
     test::pressKey(GDK_KEY_space); // the line is known
     test::pressKey(GDK_KEY_Tab);
-    test::wait(200);
+    test::wait(200 * test::patience);
     test::type("6.5");
     test::pressKey(GDK_KEY_Return);
     const bool isKept = test::waitFor(
