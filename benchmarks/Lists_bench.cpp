@@ -187,6 +187,7 @@ double heapBytes() {
 
 /// Bytes that a row takes, with the texts of its cells, on the screen, against a bare store without sorting
 /// and view.
+/// To be run with G_SLICE=always-malloc: the slices of GLib are not seen otherwise.
 void memory(benchmark::State& state) {
     constexpr std::size_t count = 100'000;
     const std::vector<IRowPresenter*>& given = rows(count);
