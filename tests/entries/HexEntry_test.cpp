@@ -304,14 +304,21 @@ TEST(HexEntry, OnlyTheThreeKeysReportAndAllGoOn) {
 }
 
 TEST(HexEntry, PendingHandlersDieWithTheirEntry) {
+    test::Finalised finalised;
+    sigc::connection pending;
     {
         Form form;
+        finalised.watch(form.entry);
         form.focusEntry();
         enter(form.entry, "g");
         form.focusOther();
         form.focusEntry();
+        pending = form.entry.focusInIdle;
+        EXPECT_TRUE(pending.connected());
     }
-    test::settle();
+    EXPECT_FALSE(pending.connected());
+    EXPECT_TRUE(finalised.all());
+    test::settle(); // the handlers of the cursor would run now
 }
 
 TEST(HexEntry, TheListenerMayEndTheEntry) {

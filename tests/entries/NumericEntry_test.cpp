@@ -447,15 +447,22 @@ TEST(NumericEntry, TheListenerMayAnswerWithAnotherValue) {
 }
 
 TEST(NumericEntry, PendingHandlersDieWithTheirEntry) {
+    test::Finalised finalised;
+    sigc::connection pending;
     {
         Form form;
+        finalised.watch(form.entry);
         form.focusEntry();
         enter(form.entry, "x");
         enter(form.entry, "1,5");
         form.focusOther();
         form.focusEntry();
+        pending = form.entry.focusInIdle;
+        EXPECT_TRUE(pending.connected());
     }
-    test::settle();
+    EXPECT_FALSE(pending.connected());
+    EXPECT_TRUE(finalised.all());
+    test::settle(); // the handlers of the cursor would run now
 }
 
 TEST(NumericEntry, TheListenerMayEndTheEntry) {
