@@ -1,5 +1,5 @@
 # What the tests of installed copies share. They are called with BUILD, the build folder; WORK, a folder of their own;
-# LIBDIR, where libraries stand below the prefix; and what else they name.
+# LIBDIR, where libraries stand below the prefix; DATADIR, where data stand; and what else they name.
 
 # run(command...): stops the test with all output if the command fails; its output stays in run_output.
 function(run)
@@ -59,6 +59,11 @@ function(use_copy prefix)
     string(FIND "${run_output}" "theme ${themes}\n" place)
     if(place EQUAL -1)
       message(FATAL_ERROR "${way} does not lead to the theme in ${themes}:\n${run_output}")
+    endif()
+    # A program that names no folder takes the one below the prefix that the build was configured with.
+    string(FIND "${run_output}" "theme unless told ${DATADIR}/ZelCommonView/Themes/\n" place)
+    if(place EQUAL -1)
+      message(FATAL_ERROR "${DATADIR} does not lead to the theme without further ado:\n${run_output}")
     endif()
   endforeach()
 endfunction()

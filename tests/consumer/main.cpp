@@ -68,6 +68,7 @@ void showRecord() {
 }
 
 void loadTheme() {
+    std::cout << "theme unless told " << Zel::getThemesDir() << "\n";
     Zel::setThemesDir(THEMES_DIR);
     const std::string folder = std::filesystem::canonical(Zel::getThemesDir()).string();
     Zel::RefreshSpinner spinner; // throws without its icon
