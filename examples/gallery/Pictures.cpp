@@ -13,10 +13,26 @@ constexpr int pictureWidth = 960; // pixels
 constexpr int pictureHeight = 600;
 constexpr gint64 twoFrames = 40000; // microseconds
 
+/// While it lives nothing fades in or moves, so that there is nothing to wait for.
+class Stillness {
+public:
+    Stillness() { settings->property_gtk_enable_animations() = false; }
+
+    ~Stillness() { settings->property_gtk_enable_animations() = wereAnimated; }
+
+    Stillness(const Stillness&) = delete;
+    Stillness& operator=(const Stillness&) = delete;
+
+private:
+    Glib::RefPtr<Gtk::Settings> settings = Gtk::Settings::get_default();
+    bool wereAnimated = settings->property_gtk_enable_animations();
+};
+
 } // namespace
 
 Glib::RefPtr<Gdk::Pixbuf> paintPage(const Page& page) {
     examples::installLook();
+    const Stillness stillness;
     Gtk::OffscreenWindow window;
     PageView view(page);
     view.set_size_request(pictureWidth, pictureHeight);

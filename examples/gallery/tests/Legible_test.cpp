@@ -40,6 +40,7 @@ TEST_P(LegibleTest, TextsStandOutFromWhatTheyStandOn) {
 // How much room there is doesn't hang on the colours.
 TEST(LegibleSizes, TextsOfEverySizeHaveTheRoomTheyNeed) {
     examples::installLook();
+    test::setTheme("Adwaita");
     for (const Page& page : gallery::allPages()) {
         const auto widget = page.create();
         test::OffscreenHost host(*widget, 960, 560);

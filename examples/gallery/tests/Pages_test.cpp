@@ -20,6 +20,11 @@ using gallery::Page;
 
 class PagesTest : public testing::TestWithParam<Page> {
 protected:
+    PagesTest() {
+        // Nothing fades in, so that there is nothing to wait for.
+        Gtk::Settings::get_default()->property_gtk_enable_animations() = false;
+    }
+
     ~PagesTest() override { lng::language = 0; }
 };
 
