@@ -21,6 +21,7 @@ class Entries : public Gtk::Box, public Zel::IView {
 public:
     Entries() : Gtk::Box(Gtk::ORIENTATION_HORIZONTAL, 8) {
         for (Gtk::Entry* entry : {&first, &second}) {
+            entry->set_width_chars(26);
             entry->set_valign(Gtk::ALIGN_CENTER);
             pack_start(*entry, Gtk::PACK_EXPAND_PADDING);
         }
