@@ -1,4 +1,5 @@
 // The program as a person starts it: what it prints, what it writes, how it ends.
+#include "support/Hands.h"
 #include "support/Pictures.h"
 #include "support/TemporaryFolder.h"
 
@@ -7,6 +8,7 @@
 #include <sys/wait.h>
 
 #include <algorithm>
+#include <csignal>
 #include <sstream>
 
 namespace {
@@ -122,6 +124,29 @@ TEST_F(GalleryTest, ShowsItsWindowUntilItIsEnded) {
     const Result result = run("--page range --lang ru --look dark", "", "timeout 3");
     EXPECT_EQ(result.code, 124) << "it ended by itself";
     EXPECT_EQ(result.errors, "");
+}
+
+TEST_F(GalleryTest, ItsWindowIsAsLightOrDarkAsAsked) {
+    for (const bool isDark : {true, false}) {
+        const std::vector<std::string> arguments{GALLERY, "--page", "about", "--look",
+                                                 isDark ? "dark" : "light"};
+        Glib::Pid pid = 0;
+        Glib::spawn_async("", arguments, Glib::SPAWN_DO_NOT_REAP_CHILD, Glib::SlotSpawnChildSetup(), &pid);
+        // The middle of the screen lies in the window, where that page is empty; the screen itself is black.
+        const auto brightness = [] {
+            const auto root = Gdk::Screen::get_default()->get_root_window();
+            const auto pixel = Gdk::Pixbuf::create(root, root->get_width() / 2, root->get_height() / 2, 1, 1);
+            return int{pixel->get_pixels()[1]};
+        };
+        EXPECT_TRUE(test::waitFor([&] {
+            const int value = brightness();
+            return isDark ? value > 30 && value < 80 : value > 200;
+        })) << brightness();
+        kill(pid, SIGTERM);
+        waitpid(pid, nullptr, 0);
+        Glib::spawn_close_pid(pid);
+        EXPECT_TRUE(test::waitFor([&] { return brightness() < 30; })) << "the window is still there";
+    }
 }
 
 TEST_F(GalleryTest, WithoutADisplaySaysSo) {
