@@ -6,6 +6,7 @@
 
 #include <glib.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <regex>
 #include <set>
@@ -108,9 +109,10 @@ TEST(Pages, HaveNoDeadLink) {
             const std::string::size_type hash = link.find('#');
             const fs::path target = hash == 0 ? page : page.parent_path() / link.substr(0, hash);
             EXPECT_TRUE(fs::exists(target)) << nameOf(page) << " links to " << link;
-            if (hash != std::string::npos && target.extension() == ".md")
-                EXPECT_EQ(anchorsOf(target).count(link.substr(hash + 1)), 1u)
-                    << nameOf(page) << " links to " << link;
+            if (hash == std::string::npos || target.extension() != ".md")
+                continue;
+            EXPECT_EQ(anchorsOf(target).count(link.substr(hash + 1)), 1u)
+                << nameOf(page) << " links to " << link;
         }
     }
     EXPECT_GT(count, 100) << "the links aren't found";
@@ -210,4 +212,34 @@ TEST(Diagrams, BelongToTheirSources) {
         ++count;
     }
     EXPECT_GE(count, 7);
+}
+
+TEST(Diagrams, TheMapAgreesWithTheIncludes) {
+    std::set<std::string> inHeaders;
+    std::set<std::string> inSources;
+    const fs::path library = root / "ZelCommonView";
+    for (const auto& entry : fs::recursive_directory_iterator(library)) {
+        const std::string from = fs::relative(entry.path().parent_path(), library);
+        const std::string extension = entry.path().extension();
+        if (from == "." || (extension != ".h" && extension != ".cpp"))
+            continue;
+        for (const std::string& to :
+             findAll(test::readFile(entry.path()), R"(#include <ZelCommonView/([a-z]+)/)"))
+            // All stand on common, of which the map shows two arrows only.
+            if (to != from && to != "common")
+                (extension == ".h" ? inHeaders : inSources).insert(from + " -> " + to);
+    }
+    for (const std::string& both : inHeaders)
+        inSources.erase(both);
+
+    std::set<std::string> solid;
+    std::set<std::string> dashed;
+    std::istringstream stream(test::readFile(root / "docs" / "diagrams" / "rooms.dot"));
+    for (std::string line; std::getline(stream, line);)
+        for (const std::string& arrow : findAll(line, R"(^ *([a-z]+ -> [a-z]+))"))
+            if (arrow.find("-> common") == std::string::npos)
+                (line.find("dashed") == std::string::npos ? solid : dashed).insert(arrow);
+    EXPECT_EQ(solid, inHeaders);
+    EXPECT_EQ(dashed, inSources);
+    EXPECT_GE(solid.size(), 10u);
 }

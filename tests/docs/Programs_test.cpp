@@ -95,7 +95,11 @@ Glib::RefPtr<Gdk::Pixbuf> pictureOfWindows() {
         int x = 0;
         int y = 0;
         window->get_origin(x, y);
-        const Gdk::Rectangle each(x, y, window->get_width(), window->get_height());
+        // Asked from the display: what Gdk knows may be of a former window of the same number.
+        int width = 0;
+        int height = 0;
+        gdk_window_get_geometry(window->gobj(), nullptr, nullptr, &width, &height);
+        const Gdk::Rectangle each(x, y, width, height);
         if (place.has_zero_area())
             place = each;
         else
