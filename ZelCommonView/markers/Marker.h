@@ -68,8 +68,8 @@ protected:
     void _selectPoint(unsigned long number, Zel::PointF offset);
     /// 0 when no point moves.
     unsigned long _getCurrentPointNumber() const;
-    /// The point that is being fixed; 9, which is no point's number, while the marker is being created. That
-    /// is meant: it is then drawn with all its points.
+    /// As `_getSelectedPointNumber`, but 9, which is no point's number, while the marker is being created.
+    /// That is meant: it is then drawn with all its points.
     unsigned long _getCreatingPointNumber() const;
     /// The point of a finished marker that is dragged; 0 for none, and while the marker is being created.
     unsigned long _getSelectedPointNumber() const;
