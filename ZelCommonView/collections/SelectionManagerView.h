@@ -24,7 +24,7 @@ public:
     /// are ignored.
     virtual void setContent(IView* content) = 0;
     /// Whether an item is to be selected whenever there is one; false at first. Switching it on selects the
-    /// first one if none is selected.
+    /// first one, also while another one is selected; that is meant.
     virtual void setAutoselect(bool value) = 0;
     /// The presenter of the selected item; null without one.
     virtual IPresenter* getSelectedItem() = 0;
