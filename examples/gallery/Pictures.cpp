@@ -49,7 +49,9 @@ std::string writePicture(const Page& page, const std::string& folder) {
     if (g_mkdir_with_parents(folder.c_str(), 0777) != 0)
         throw Glib::FileError(Glib::FileError::FAILED, "the folder can't be made");
     const std::string language = lng::index() == 0 ? "en" : "ru";
-    std::string path = Glib::build_filename(folder, std::string(page.name) + "-" + language + ".png");
+    const std::string look = examples::isDark() ? "dark" : "light";
+    std::string path =
+        Glib::build_filename(folder, std::string(page.name) + "-" + language + "-" + look + ".png");
     paintPage(page)->save(path, "png");
     return path;
 }
