@@ -16,8 +16,8 @@ namespace ZelView {
 struct CursorPosDrawerCfg {
     /// Bits of `flags`.
     enum Flag : std::uint32_t {
-        ShowX = 1,
-        ShowY = 2,
+        ShowX = 1, ///< x in the readout
+        ShowY = 2, ///< y in the readout
     };
 
     std::uint32_t flags = 0xFFFFFFFF;         ///< bits of `Flag`; both at first

@@ -18,8 +18,8 @@ struct MarkerDrawerCfg;
 
 /// How many points a marker has.
 enum class MarkerType : std::uint32_t {
-    Single = 0,
-    Double = 1,
+    Single = 0, ///< one line
+    Double = 1, ///< two lines and what is between them
 };
 
 /// A marker holds world points, so it stays on the signal when the view changes. It is being created until

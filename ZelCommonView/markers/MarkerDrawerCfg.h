@@ -23,9 +23,9 @@ struct MarkerDrawerTextCfg {
 struct MarkerDrawerCfg {
     /// Bits of `menuFlags`.
     enum MenuFlag : std::uint32_t {
-        CreateHorizontal = 1,
-        CreateVertical = 2,
-        DeleteAndExport = 4,
+        CreateHorizontal = 1, ///< the two items that create horizontal markers
+        CreateVertical = 2,   ///< the two items that create vertical markers
+        DeleteAndExport = 4,  ///< delete one, delete all, export the picture
     };
 
     std::uint32_t menuFlags = 0xFFFFFFFF;     ///< bits of `MenuFlag`; all at first

@@ -15,8 +15,8 @@ enum class BordersMode : std::uint32_t {
 
 /// Whether the two axes may stretch independently.
 enum class CoordsConvertMode : std::uint32_t {
-    Stretchable = 0,
-    Proportional = 1,
+    Stretchable = 0,  ///< each axis fills its side of the widget
+    Proportional = 1, ///< one unit is equally long on both axes
 };
 
 /// Maps world units to pixels. All arithmetic is in 32-bit float, in the association that the sources show.
