@@ -8,7 +8,7 @@ namespace Zel {
 /// which shares them, outlives the emission. The caller touches nothing of the owner afterwards.
 template <typename TSignal, typename... TValues>
 auto emitKept(const TSignal& signal, TValues... values) {
-    const TSignal kept = signal;
+    const TSignal kept = signal; // NOLINT(performance-unnecessary-copy-initialization)
     return kept.emit(values...);
 }
 

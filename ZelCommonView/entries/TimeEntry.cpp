@@ -2,6 +2,8 @@
 
 #include <ZelCommonView/common/EmitKept.h>
 
+#include <glibmm/main.h>
+
 #include <algorithm>
 #include <array>
 

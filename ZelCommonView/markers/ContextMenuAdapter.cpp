@@ -12,7 +12,7 @@ ContextMenuAdapter::~ContextMenuAdapter() = default;
 
 void ContextMenuAdapter::addAction(const std::string& text, std::function<void()> action) {
     Gtk::MenuItem& item = items.emplace_back(text);
-    item.signal_activate().connect(sigc::track_obj(std::move(action), *this), true);
+    item.signal_activate().connect(sigc::track_obj(action, *this), true);
     menu.append(item);
     menu.show_all();
 }

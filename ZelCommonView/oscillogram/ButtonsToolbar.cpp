@@ -20,7 +20,7 @@ void ButtonsToolbar::addButton(const std::string& label, std::function<void()> a
     auto button = std::make_unique<Gtk::ToolButton>();
     button->get_style_context()->add_class("oscButton");
     button->set_label(label);
-    button->signal_clicked().connect(std::move(action), true);
+    button->signal_clicked().connect(action, true);
     toolbar.insert(*button, static_cast<int>(buttonCount));
     ++buttonCount;
     button->show();

@@ -2,6 +2,8 @@
 
 #include <ZelCommonView/oscillogram/SeriesGroupDrawArea.h>
 
+#include <gtkmm/adjustment.h>
+
 namespace ZelView {
 
 PackableDrawArea::PackableDrawArea(SeriesGroupDrawArea& value) : drawArea(value), window(value) {

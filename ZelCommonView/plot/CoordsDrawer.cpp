@@ -73,12 +73,12 @@ void CoordsDrawer::_onDrawStepLineY(const Cairo::RefPtr<Cairo::Context>& context
 
 void CoordsDrawer::_getFirstStepLineXPos(Zel::PointF& from, Zel::PointF& to) const {
     const Steps steps = stepsX(*converter, cfg);
-    _getLineX(steps.first * steps.step, from, to);
+    _getLineX(static_cast<float>(steps.first) * steps.step, from, to);
 }
 
 void CoordsDrawer::_getLastStepLineXPos(Zel::PointF& from, Zel::PointF& to) const {
     const Steps steps = stepsX(*converter, cfg);
-    _getLineX(steps.last * steps.step, from, to);
+    _getLineX(static_cast<float>(steps.last) * steps.step, from, to);
 }
 
 void CoordsDrawer::_getCenterStepLineXPos(Zel::PointF& from, Zel::PointF& to) const {
@@ -87,12 +87,12 @@ void CoordsDrawer::_getCenterStepLineXPos(Zel::PointF& from, Zel::PointF& to) co
 
 void CoordsDrawer::_getFirstStepLineYPos(Zel::PointF& from, Zel::PointF& to) const {
     const Steps steps = stepsY(*converter, cfg);
-    _getLineY(steps.first * steps.step, from, to);
+    _getLineY(static_cast<float>(steps.first) * steps.step, from, to);
 }
 
 void CoordsDrawer::_getLastStepLineYPos(Zel::PointF& from, Zel::PointF& to) const {
     const Steps steps = stepsY(*converter, cfg);
-    _getLineY(steps.last * steps.step, from, to);
+    _getLineY(static_cast<float>(steps.last) * steps.step, from, to);
 }
 
 void CoordsDrawer::_getCenterStepLineYPos(Zel::PointF& from, Zel::PointF& to) const {

@@ -111,6 +111,7 @@ void PanelView::_on_drop_drag_data_received(const Glib::RefPtr<Gdk::DragContext>
         const Positions position = _getPosition(x, y);
         if (position == Positions::Default)
             return;
+        // The address came as text. NOLINTNEXTLINE(performance-no-int-to-ptr)
         emitKept(signalDrop, this, reinterpret_cast<PanelView*>(address), position);
     }
     context->drag_finish(false, false, time);

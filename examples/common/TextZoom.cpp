@@ -58,10 +58,14 @@ double turnOf(const GdkEventScroll& event) {
 /// Touchpads turn in small parts, which are gathered to whole steps.
 void turnWheel(double& gathered, double turn) {
     gathered += turn;
-    for (; gathered <= -1; ++gathered)
+    while (gathered <= -1) {
+        ++gathered;
         StyleZoomHelper::zoomIn();
-    for (; gathered >= 1; --gathered)
+    }
+    while (gathered >= 1) {
+        --gathered;
         StyleZoomHelper::zoomOut();
+    }
 }
 
 /// The wheel of the marked window over which an event happened, or null.

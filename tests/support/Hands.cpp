@@ -6,7 +6,7 @@
 namespace test {
 
 void settle() {
-    constexpr gint64 twoFrames = 40000;  // microseconds
+    constexpr gint64 twoFrames = 40000; // microseconds
     constexpr gint64 longest = 2000000; // microseconds
     const gint64 end = g_get_monotonic_time() + longest;
     gint64 quietSince = g_get_monotonic_time();

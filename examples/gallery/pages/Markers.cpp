@@ -30,7 +30,7 @@ public:
     }
 
 private:
-    const ZelView::MarkerDrawerCfg cfg;
+    const ZelView::MarkerDrawerCfg cfg{};
     ZelView::SingleMarker marker{cfg, ZelView::Orientation::Horizontal};
     bool isPlaced = false;
 };

@@ -30,7 +30,7 @@ public:
     double next() {
         double sum = -6;
         for (int i = 0; i < 12; ++i)
-            sum += generator() / 4294967296.0;
+            sum += static_cast<double>(generator()) / 4294967296.0;
         return sum * noise;
     }
 

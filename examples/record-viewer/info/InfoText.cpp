@@ -28,7 +28,7 @@ std::string momentText(const std::optional<Moment>& moment) {
 std::string revisionText(const Record& record) {
     if (record.revision == 0)
         return "-";
-    const std::string applied = std::to_string(record.revision);
+    std::string applied = std::to_string(record.revision);
     if (record.revisionText == applied)
         return applied;
     return applied + (record.revisionText.empty() ? " (the file names none)"

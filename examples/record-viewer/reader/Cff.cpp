@@ -10,7 +10,7 @@ namespace record {
 namespace {
 
 /// Texts of all sections together; the data are not among them.
-constexpr std::size_t longestText = 64 * 1024 * 1024;
+constexpr std::size_t longestText = std::size_t(64) * 1024 * 1024;
 
 struct Mark {
     /// "CFG", "INF", "HDR" or "DAT".

@@ -10,7 +10,7 @@ namespace record {
 
 /// Longer configurations are refused, as each of their lines takes some memory. A thousand channels need a
 /// tenth of a mebibyte.
-constexpr std::size_t longestConfiguration = 16 * 1024 * 1024;
+constexpr std::size_t longestConfiguration = std::size_t(16) * 1024 * 1024;
 
 /// Puts a record together from the bytes of a configuration and the source of its data. Without data (a null
 /// pointer) it throws Error, or, with `options.salvage`, returns the channels without samples.

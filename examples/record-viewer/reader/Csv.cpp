@@ -134,7 +134,7 @@ private:
             const auto line = lines.nextFilled();
             if (line)
                 length += line->size();
-            if (!line || length > 1024 * 1024)
+            if (!line || length > std::size_t(1024) * 1024)
                 throw Error(source.name() + ", line " + std::to_string(lines.number()) +
                             ": expected a row of numbers, found none up to here.");
             separator = separatorOf(*line);

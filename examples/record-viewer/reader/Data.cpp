@@ -17,7 +17,7 @@ namespace {
 constexpr float missingSample = std::numeric_limits<float>::quiet_NaN();
 constexpr std::uint32_t missingStamp = 0xFFFFFFFF;
 /// A piece is small enough for the fastest cache, as each channel walks through it once.
-constexpr std::size_t pieceSize = 32 * 1024;
+constexpr std::size_t pieceSize = std::size_t(32) * 1024;
 
 /// Numbers in the file have their lowest byte first, like those of every processor this program is built for.
 template <class Number>

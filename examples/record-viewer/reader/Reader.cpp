@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t longestHeader = 4 * 1024 * 1024;
+constexpr std::size_t longestHeader = std::size_t(4) * 1024 * 1024;
 
 std::string extensionOf(const fs::path& path) {
     return lowered(path.extension().string());

@@ -10,8 +10,8 @@ namespace record {
 
 namespace {
 
-constexpr std::size_t pieceSize = 64 * 1024;
-constexpr std::size_t longestLine = 16 * 1024 * 1024;
+constexpr std::size_t pieceSize = std::size_t(64) * 1024;
+constexpr std::size_t longestLine = std::size_t(16) * 1024 * 1024;
 
 } // namespace
 

@@ -32,6 +32,7 @@ char toUpper(char c) {
 class Conversion {
 public:
     explicit Conversion(const std::string& codePage) : handle(iconv_open("UTF-8", codePage.c_str())) {
+        // What iconv_open gives where it fails. NOLINTNEXTLINE(performance-no-int-to-ptr)
         if (handle == reinterpret_cast<iconv_t>(-1))
             throw Error("The code page " + inQuotes(codePage) + " is not known.");
     }

@@ -52,7 +52,7 @@ Glib::RefPtr<Gdk::Pixbuf> takePicture(Gtk::Widget& widget, Gtk::Widget& last) {
         Gtk::Main::iteration();
     while (Gtk::Main::events_pending())
         Gtk::Main::iteration();
-    const auto picture = window.get_pixbuf();
+    auto picture = window.get_pixbuf();
     window.remove();
     return picture;
 }
@@ -77,7 +77,7 @@ std::string writeOscillogram(record::Record record, const std::string& folder, c
     RecordPage page;
     page.setRecord(std::move(record));
     page.set_size_request(pictureWidth, oscillogramHeight);
-    const std::string path = Glib::build_filename(folder, stem + "-oscillogram.png");
+    std::string path = Glib::build_filename(folder, stem + "-oscillogram.png");
     takePicture(page, page)->save(path, "png");
     return path;
 }
