@@ -8,8 +8,8 @@
 
 #include <gtkmm.h>
 
+#include <array>
 #include <cmath>
-#include <list>
 
 namespace gallery {
 
@@ -45,7 +45,7 @@ public:
 private:
     Zel::Series& _add(const std::string& name, int number) {
         static const Zel::Color colors[] = {{204, 121, 0, 255}, {0, 128, 72, 255}, {200, 30, 45, 255}};
-        Zel::Series& added = series.emplace_back(); // a list: the address must not change
+        Zel::Series& added = series.at(count++);
         added.name = name;
         added.color = colors[number % 3];
         return added;
@@ -79,7 +79,8 @@ private:
                                               std::lround(from), std::lround(to), std::lround(duration)));
     }
 
-    std::list<Zel::Series> series; ///< they outlive the widget
+    std::array<Zel::Series, 8> series; ///< they outlive the widget, and their addresses never change
+    std::size_t count = 0;
     Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 8};
     Gtk::Button faultButton{words("The fault", "Повреждение")};
     Gtk::Button allButton{words("The whole record", "Вся запись")};

@@ -43,6 +43,7 @@ public:
         surface.addControl(&entries);
         surface.set_size_request(-1, 120);
         frame.add(surface);
+        pack_start(surfaceName, Gtk::PACK_SHRINK);
         pack_start(frame, Gtk::PACK_SHRINK);
         _show();
     }
@@ -85,7 +86,8 @@ private:
     Gtk::Button closeButton{words("Close it", "Закрыть его")};
     Gtk::Label place;
     Entries entries;
-    Gtk::Frame frame{words("A surface", "Поверхность")};
+    Gtk::Label surfaceName{words("A surface with entries:", "Поверхность с полями:"), Gtk::ALIGN_START};
+    Gtk::Frame frame;
     Zel::GrabPanelView surface;
     std::unique_ptr<Gtk::Window> window;
     std::unique_ptr<Zel::WindowRectangleManager> manager;

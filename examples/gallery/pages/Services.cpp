@@ -1,8 +1,9 @@
 // Small services for texts: to search and to split them, to read a number whatever the user's locale, to
-// complete the name of a file.
+// complete the name of a file. And what that locale is.
 
 #include "Pages.h"
 
+#include <ZelCommonView/common/Cross.h>
 #include <ZelCommonView/common/StringHelper.h>
 #include <ZelCommonView/dialogs/FileDialogHelper.h>
 #include <ZelCommonView/entries/NumericConversion.h>
@@ -24,6 +25,11 @@ public:
         _attach(1, words("Part of it", "Часть списка"), part, isThere, "20");
         _attach(2, words("Number", "Число"), number, value, "-12.5e3");
         _attach(3, words("File name", "Имя файла"), file, completed, "table");
+        // The user's locale, which a program may take for the choice of its language.
+        system.set_text(cross::isRu() ? words("The locale is a Russian one", "Локаль русская")
+                                      : words("The locale is no Russian one", "Локаль не русская"));
+        system.set_xalign(0);
+        attach(system, 0, 4, 3);
         _onChanged();
         for (Gtk::Entry* entry : {&list, &part, &number, &file})
             entry->signal_changed().connect(sigc::mem_fun(*this, &Services::_onChanged), true);
@@ -70,6 +76,7 @@ private:
     Gtk::Label isThere;
     Gtk::Label value;
     Gtk::Label completed;
+    Gtk::Label system;
 };
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 
 #include <algorithm>
+#include <sstream>
 
 namespace {
 
@@ -40,8 +41,9 @@ TEST_F(GalleryTest, ListsItsPagesWithoutADisplay) {
     const Result result = run("--list", "DISPLAY=");
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, "");
-    for (const char* name : {"geometry", "canvas", "curves", "words", "markers", "overlays", "plot", "range",
-                             "frames", "actions", "windows", "confirm", "panels", "dialogs", "about"})
+    for (const char* name : {"oscillogram", "replay", "themes", "jobs", "geometry", "canvas", "curves",
+                             "words", "markers", "overlays", "plot", "range", "frames", "actions", "windows",
+                             "confirm", "panels", "dialogs", "about"})
         EXPECT_NE(("\n" + result.output).find("\n" + std::string(name) + "\t"), std::string::npos) << name;
     EXPECT_NE(result.output.find("plot\tPlot with a legend\n"), std::string::npos);
 }
@@ -52,13 +54,14 @@ TEST_F(GalleryTest, ListsItsPagesInRussian) {
     EXPECT_NE(result.output.find("plot\tГрафик с легендой\n"), std::string::npos);
 }
 
-TEST_F(GalleryTest, PaintsAPageInBothLanguagesAndPrintsThePaths) {
+TEST_F(GalleryTest, PaintsAPageInBothLanguagesLightAndDarkAndPrintsThePaths) {
     const Result result = run("--page plot --png " + pictures());
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.output, pathOf("plot-en.png") + "\n" + pathOf("plot-ru.png") + "\n");
-    const test::Picture english = test::pictureOfFile(pathOf("plot-en.png"));
-    const test::Picture russian = test::pictureOfFile(pathOf("plot-ru.png"));
+    EXPECT_EQ(result.output, pathOf("plot-en-light.png") + "\n" + pathOf("plot-ru-light.png") + "\n" +
+                                 pathOf("plot-en-dark.png") + "\n" + pathOf("plot-ru-dark.png") + "\n");
+    const test::Picture english = test::pictureOfFile(pathOf("plot-en-light.png"));
+    const test::Picture russian = test::pictureOfFile(pathOf("plot-ru-light.png"));
     EXPECT_GT(english.countPainted(), 5000);
     EXPECT_EQ(english.width, russian.width);
     EXPECT_FALSE(english == russian);
@@ -66,23 +69,57 @@ TEST_F(GalleryTest, PaintsAPageInBothLanguagesAndPrintsThePaths) {
 
 TEST_F(GalleryTest, PaintsEveryPageWithoutAComplaint) {
     const Result list = run("--list");
-    const auto count = std::count(list.output.begin(), list.output.end(), '\n');
     const Result result = run("--png " + pictures());
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 2 * count);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path / "pictures"), {}), 2 * count);
+    int count = 0;
+    std::istringstream lines(list.output);
+    for (std::string line; std::getline(lines, line);) {
+        const std::string page = line.substr(0, line.find('\t'));
+        for (const std::string language : {"en", "ru"}) {
+            const test::Picture light = test::pictureOfFile(pathOf(page + "-" + language + "-light.png"));
+            const test::Picture dark = test::pictureOfFile(pathOf(page + "-" + language + "-dark.png"));
+            EXPECT_GT(light.countPainted(), 2000) << page << " " << language;
+            EXPECT_GT(dark.countPainted(), 2000) << page << " " << language;
+            // The background in the corner is what makes them light or dark.
+            EXPECT_GT(light.at(0, 0)[1], 200) << page << " " << language;
+            EXPECT_LT(dark.at(0, 0)[1], 80) << page << " " << language;
+            count += 2;
+        }
+    }
+    EXPECT_GE(count, 100);
+    EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), count);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path / "pictures"), {}), count);
 }
 
 TEST_F(GalleryTest, PaintsInOneLanguageIfItIsNamed) {
     const Result result = run("--page words --lang ru --png " + pictures());
     EXPECT_EQ(result.code, 0);
-    EXPECT_EQ(result.output, pathOf("words-ru.png") + "\n");
-    EXPECT_FALSE(std::filesystem::exists(pathOf("words-en.png")));
+    EXPECT_EQ(result.output, pathOf("words-ru-light.png") + "\n" + pathOf("words-ru-dark.png") + "\n");
+    EXPECT_FALSE(std::filesystem::exists(pathOf("words-en-light.png")));
+}
+
+TEST_F(GalleryTest, PaintsInOneLookIfItIsNamed) {
+    for (const std::string look : {"light", "dark"}) {
+        const Result result = run("--page words --lang en --look " + look + " --png " + pictures());
+        EXPECT_EQ(result.code, 0);
+        EXPECT_EQ(result.output, pathOf("words-en-" + look + ".png") + "\n");
+    }
+}
+
+TEST_F(GalleryTest, PaintsTheSameWhateverThemeTheUserHas) {
+    EXPECT_EQ(run("--page words --lang en --png " + pictures()).code, 0);
+    for (const std::string look : {"light", "dark"}) {
+        const std::string path = pathOf("words-en-" + look + ".png");
+        const test::Picture before = test::pictureOfFile(path);
+        const std::string arguments = "--page words --lang en --look " + look + " --png " + pictures();
+        EXPECT_EQ(run(arguments, "GTK_THEME=HighContrastInverse").code, 0);
+        EXPECT_TRUE(test::pictureOfFile(path) == before) << look;
+    }
 }
 
 TEST_F(GalleryTest, ShowsItsWindowUntilItIsEnded) {
-    const Result result = run("--page range --lang ru", "", "timeout 3");
+    const Result result = run("--page range --lang ru --look dark", "", "timeout 3");
     EXPECT_EQ(result.code, 124) << "it ended by itself";
     EXPECT_EQ(result.errors, "");
 }
@@ -118,6 +155,9 @@ TEST_F(GalleryTest, ArgumentsThatMakeNoSenseGetASentence) {
     EXPECT_EQ(complaint("--page ''"), "gallery: there is no page \"\"; --list names all of them\n");
     EXPECT_EQ(complaint("--lang de"), "gallery: --lang takes \"en\" or \"ru\", and not \"de\"\n");
     EXPECT_EQ(complaint("--lang ''"), "gallery: --lang takes \"en\" or \"ru\", and not \"\"\n");
+    EXPECT_EQ(complaint("--look bright"),
+              "gallery: --look takes \"light\" or \"dark\", and not \"bright\"\n");
+    EXPECT_EQ(complaint("--look ''"), "gallery: --look takes \"light\" or \"dark\", and not \"\"\n");
     EXPECT_EQ(complaint("--png ''"), "gallery: --png takes the folder for the pictures\n");
     EXPECT_EQ(complaint("plot"), "gallery: \"plot\" is no option; --page NAME shows a page\n");
     EXPECT_EQ(complaint("--list --page plot"),
@@ -129,6 +169,6 @@ TEST_F(GalleryTest, ArgumentsThatMakeNoSenseGetASentence) {
 TEST_F(GalleryTest, ExplainsItself) {
     const Result result = run("--help", "DISPLAY=");
     EXPECT_EQ(result.code, 0);
-    for (const char* option : {"--page", "--list", "--png", "--lang"})
+    for (const char* option : {"--page", "--list", "--png", "--lang", "--look"})
         EXPECT_NE(result.output.find(option), std::string::npos) << option;
 }
