@@ -191,6 +191,20 @@ TEST(Families, HaveNoPageThatTheGalleryLacks) {
     }
 }
 
+TEST(Families, NameEachPublicHeader) {
+    std::string text;
+    for (const auto& entry : fs::directory_iterator(root / "docs" / "families"))
+        text += test::readFile(entry.path());
+    const std::vector<std::string> words = findAll(text, R"(\b([A-Za-z]+)\b)");
+    const std::set<std::string> known(words.begin(), words.end());
+    const std::vector<std::string> headers =
+        findAll(test::readFile(root / "ZelCommonView" / "ZelCommonView.h"), R"(/([A-Za-z]+)\.h>)");
+    EXPECT_GE(headers.size(), 100u);
+    for (const std::string& header : headers)
+        // That of the export macro has nothing to tell of.
+        EXPECT_TRUE(header == "Export" || known.count(header)) << "no family has " << header << ".h";
+}
+
 TEST(Families, AreListedInTheOrderOfTheGallery) {
     const std::string text = test::readFile(root / "docs" / "families" / "README.md");
     EXPECT_EQ(findAll(text, R"(\]\(([a-z-]+)\.md\))"), galleryPages());
