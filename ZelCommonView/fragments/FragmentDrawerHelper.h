@@ -31,6 +31,7 @@ struct Fragment {
 /// composed.
 class ZEL_API FragmentDrawerHelper {
 public:
+    /// The widget gives the size, and must outlive the helper.
     explicit FragmentDrawerHelper(const Gtk::Widget& widget);
     FragmentDrawerHelper(const FragmentDrawerHelper&) = delete;
     FragmentDrawerHelper& operator=(const FragmentDrawerHelper&) = delete;

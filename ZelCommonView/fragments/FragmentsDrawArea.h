@@ -50,7 +50,8 @@ public:
 
     /// Initially opaque white. Asks for no repaint, and images that are cached already keep their colour.
     void setBackgroundColor(Zel::Color color);
-    /// While frozen the area shows the last composed picture and paints nothing else. Asks for no repaint.
+    /// While frozen the area shows the last composed picture and paints nothing else; false at first. Asks
+    /// for no repaint.
     void setIsFreezed(bool value);
 
     /// Saves the fragment's own image to a file of a gdk-pixbuf type such as "png". One that was never
