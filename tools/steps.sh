@@ -40,9 +40,9 @@ install_packages() {
             apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# listed_packages: the packages that a build with tests needs.
+# listed_packages [FILE]: the packages that a build with tests needs, or those of another list in tools/.
 listed_packages() {
-    grep -v '^#' "$root/tools/packages.txt"
+    grep -v '^#' "$root/tools/${1:-packages.txt}"
 }
 
 # with_display COMMAND...: runs the command in a virtual display with a session bus and a window manager.
