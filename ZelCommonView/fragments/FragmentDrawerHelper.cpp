@@ -77,7 +77,7 @@ std::optional<SurfacePixels>
 FragmentDrawerHelper::_getPixels(const Cairo::RefPtr<Cairo::Context>& context) const {
     const int width = widget.get_allocated_width();
     const int height = widget.get_allocated_height();
-    if (backgroundColor.a != 255 || width <= 0 || height <= 0)
+    if (!isOpaque() || width <= 0 || height <= 0)
         return {};
     return readableTarget(context, width, height);
 }

@@ -47,6 +47,9 @@ public:
     /// Initially opaque white. Images that are cached already keep the colour they were made with.
     void setBackgroundColor(Zel::Color color);
 
+    /// Whether the background colour lets nothing through.
+    bool isOpaque() const { return backgroundColor.a == 255; }
+
     /// Clears to the background colour and starts a new picture.
     void startFragmentsDraw(const Cairo::RefPtr<Cairo::Context>& context);
     /// Paints the composed picture in place of the working marks on the context.

@@ -76,8 +76,8 @@ void layOver(Byte* to, Rgba pixel) {
     const Word other = (0xff - Word(pixel.a)) * to[3];
     const Word sum = own + other;
     store(to, Rgba{static_cast<Byte>((own * pixel.r + other * to[0]) / sum),
-               static_cast<Byte>((own * pixel.g + other * to[1]) / sum),
-               static_cast<Byte>((own * pixel.b + other * to[2]) / sum), static_cast<Byte>(sum / 0xff)});
+                   static_cast<Byte>((own * pixel.g + other * to[1]) / sum),
+                   static_cast<Byte>((own * pixel.b + other * to[2]) / sum), static_cast<Byte>(sum / 0xff)});
 }
 
 /// The pixels of a block, and all bits of a pixel where a comparison holds.
