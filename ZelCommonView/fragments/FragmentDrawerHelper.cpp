@@ -27,8 +27,22 @@ void FragmentDrawerHelper::startFragmentsDraw(const Cairo::RefPtr<Cairo::Context
 void FragmentDrawerHelper::endFragmentsDraw(const Cairo::RefPtr<Cairo::Context>& context) {
     if (!background)
         return;
+    if (_copyBackground(context))
+        return;
     context->set_source(makeSurface(*background.operator->()), 0, 0);
     context->paint();
+}
+
+bool FragmentDrawerHelper::_copyBackground(const Cairo::RefPtr<Cairo::Context>& context) {
+    const std::optional<SurfacePixels> pixels = _getPixels(context);
+    cairo_surface_t* const target = cairo_get_target(context->cobj());
+    if (!pixels || cairo_get_group_target(context->cobj()) != target ||
+        context->get_operator() != Cairo::OPERATOR_OVER ||
+        !isWholeExposed(context, pixels->width, pixels->height))
+        return false;
+    const bool isCopied = copyOpaque(*background.operator->(), *pixels);
+    cairo_surface_mark_dirty(target);
+    return isCopied;
 }
 
 void FragmentDrawerHelper::draw(const Cairo::RefPtr<Cairo::Context>& context, const DrawFunction& function) {

@@ -68,6 +68,7 @@ public:
 private:
     void _clearBackground(const Cairo::RefPtr<Cairo::Context>& context);
     void _saveBackground(const Cairo::RefPtr<Cairo::Context>& context);
+    bool _copyBackground(const Cairo::RefPtr<Cairo::Context>& context);
     void _drawLayer(const Cairo::RefPtr<Cairo::Context>& context, const std::vector<DrawFunction>& functions);
     std::optional<SurfacePixels> _getPixels(const Cairo::RefPtr<Cairo::Context>& context) const;
     Glib::RefPtr<Gdk::Pixbuf> _getDrawed(const Cairo::RefPtr<Cairo::Context>& context) const;

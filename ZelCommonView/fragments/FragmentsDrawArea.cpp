@@ -1,5 +1,7 @@
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
 
+#include <ZelCommonView/fragments/PixelPasses.h>
+
 #include <algorithm>
 
 namespace ZelView {
@@ -102,6 +104,7 @@ void FragmentsDrawArea::redraw() {
 
 void FragmentsDrawArea::redraw(const void* key) {
     redrawAll = false;
+    allFragments.needRedraw = true;
     allFragments.image.reset();
     fragments[key].needRedraw = true;
     queue_draw();
@@ -137,7 +140,8 @@ void FragmentsDrawArea::saveSummaryImage(const std::string& fileName, const std:
 bool FragmentsDrawArea::on_draw(const Cairo::RefPtr<Cairo::Context>& context) {
     if (isFreezed)
         frozenImage.draw(context);
-    else if (isImage(context->get_target()) && _isWholeExposed(context))
+    else if (isImage(context->get_target()) &&
+             Fragments::isWholeExposed(context, get_allocated_width(), get_allocated_height()))
         _drawLayers(context, context->get_target());
     else
         _drawOnOwnSurface(context);
@@ -147,19 +151,6 @@ bool FragmentsDrawArea::on_draw(const Cairo::RefPtr<Cairo::Context>& context) {
 bool FragmentsDrawArea::_onConfigure(GdkEventConfigure*) {
     redraw();
     return false;
-}
-
-bool FragmentsDrawArea::_isWholeExposed(const Cairo::RefPtr<Cairo::Context>& context) const {
-    // The extents alone would not do: they also cover the holes of a clip that is made of several rectangles.
-    std::vector<Cairo::Rectangle> clip;
-    try {
-        context->copy_clip_rectangle_list(clip);
-    } catch (const std::exception&) {
-        return false; // not made of rectangles
-    }
-    return clip.size() == 1 && clip[0].x <= 0 && clip[0].y <= 0 &&
-           clip[0].x + clip[0].width >= get_allocated_width() &&
-           clip[0].y + clip[0].height >= get_allocated_height();
 }
 
 void FragmentsDrawArea::_drawLayers(const Cairo::RefPtr<Cairo::Context>& context,
@@ -233,10 +224,13 @@ void FragmentsDrawArea::_drawFragments(const Cairo::RefPtr<Cairo::Context>& cont
         }
     }
 
-    if (!redrawAll) {
-        for (auto& [key, fragment] : fragments)
-            helper.drawFragment(painting, fragment);
-    } else if (isRetaining) {
+    if (redrawAll && !isRetaining) {
+        std::vector<DrawFunction> functions;
+        functions.reserve(fragments.size());
+        for (const auto& [key, fragment] : fragments)
+            functions.push_back(fragment.drawer);
+        helper.drawAsFragment(painting, functions);
+    } else if (redrawAll || _mergeFragments()) {
         try {
             helper.drawFragment(painting, allFragments);
         } catch (...) {
@@ -244,12 +238,23 @@ void FragmentsDrawArea::_drawFragments(const Cairo::RefPtr<Cairo::Context>& cont
             throw;
         }
     } else {
-        std::vector<DrawFunction> functions;
-        functions.reserve(fragments.size());
-        for (const auto& [key, fragment] : fragments)
-            functions.push_back(fragment.drawer);
-        helper.drawAsFragment(painting, functions);
+        for (auto& [key, fragment] : fragments)
+            helper.drawFragment(painting, fragment);
     }
+}
+
+bool FragmentsDrawArea::_mergeFragments() {
+    if (!isRetaining || fragments.size() < 2 || _isFragmentOutOfDate())
+        return false;
+    if (allFragments.needRedraw) {
+        std::vector<Glib::RefPtr<Gdk::Pixbuf>> images;
+        images.reserve(fragments.size());
+        for (const auto& [key, fragment] : fragments)
+            images.push_back(fragment.image);
+        allFragments.image = Fragments::merge(images);
+        allFragments.needRedraw = false;
+    }
+    return bool(allFragments.image);
 }
 
 bool FragmentsDrawArea::_isFragmentOutOfDate() const {

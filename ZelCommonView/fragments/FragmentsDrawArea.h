@@ -50,11 +50,10 @@ public:
 
     /// Initially opaque white. Asks for no repaint, and images that are cached already keep their colour.
     void setBackgroundColor(Zel::Color color);
-    /// Whether the picture of all fragments painted in one go is kept, too, and composed at the next repaints
-    /// until one of these comes: `redraw()`, a fragment that is added, removed or marked, another size or
-    /// background colour. What else a fragment's picture depends on must then be told by a mark. Layers are
-    /// painted at each repaint as ever. Initially false: then a repaint in one go always paints. Asks for no
-    /// repaint.
+    /// Whether one picture of all fragments is kept, too, and composed at the next repaints until one of
+    /// these comes: `redraw()`, a fragment that is added, removed or marked, another size or background
+    /// colour. What else a fragment's picture depends on must then be told by a mark. Layers are painted at
+    /// each repaint as ever, and all pictures are the same to the byte. Initially false. Asks for no repaint.
     void setIsRetaining(bool value);
     /// While frozen the area shows the last composed picture and paints nothing else. Asks for no repaint.
     void setIsFreezed(bool value);
@@ -72,7 +71,6 @@ protected:
 
 private:
     bool _onConfigure(GdkEventConfigure* event);
-    bool _isWholeExposed(const Cairo::RefPtr<Cairo::Context>& context) const;
     void _drawLayers(const Cairo::RefPtr<Cairo::Context>& context,
                      const Cairo::RefPtr<Cairo::Surface>& target);
     void _drawOnOwnSurface(const Cairo::RefPtr<Cairo::Context>& context);
@@ -81,6 +79,7 @@ private:
     void _drawFragments(const Cairo::RefPtr<Cairo::Context>& context,
                         const Cairo::RefPtr<Cairo::Surface>& target);
     bool _isFragmentOutOfDate() const;
+    bool _mergeFragments();
     void _drawAfterFragments(const Cairo::RefPtr<Cairo::Context>& context);
     void _drawEnd(const Cairo::RefPtr<Cairo::Context>& context);
 
@@ -94,7 +93,7 @@ private:
     ImageDrawer frozenImage;
     bool redrawAll = false; ///< all fragments are painted in one go
     bool isRetaining = false;
-    Fragments::Fragment allFragments; ///< those painted in one go, while they are retained
+    Fragments::Fragment allFragments; ///< one picture of all, while they are retained
 };
 
 } // namespace ZelView

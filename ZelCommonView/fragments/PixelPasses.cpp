@@ -160,6 +160,42 @@ void passOfLittle(const Byte* from, std::ptrdiff_t stride, int width, int height
     }
 }
 
+/// Lays a picture over another; `one(from, to)` deals with each pixel of a block that holds translucent ones.
+template <typename One>
+void layOver(const Gdk::Pixbuf& picture, int width, int height, Gdk::Pixbuf& onto, One one) {
+    passOfLittle(
+        picture.get_pixels(), picture.get_rowstride(), width, height, onto,
+        [](Words words) { return words & pictureAlpha; },
+        [](const Byte* from, Byte* to) {
+            const Words words = loadBlock(from);
+            const Words alpha = words & pictureAlpha;
+            const Words isSolid = Words(alpha == pictureAlpha);
+            if (isAny(alpha & ~isSolid))
+                return false;
+            storeBlock(to, (words & isSolid) | (loadBlock(to) & ~isSolid));
+            return true;
+        },
+        one);
+}
+
+/// Copies a picture to the memory of a surface; `one(from, to)` deals with each pixel of a block that isn't
+/// opaque.
+template <typename One>
+void toSurface(const Gdk::Pixbuf& picture, int width, int height, Byte* data, std::ptrdiff_t stride,
+               One one) {
+    for (int y = 0; y < height; ++y)
+        passRow(
+            picture.get_pixels() + std::ptrdiff_t(y) * picture.get_rowstride(), data + y * stride, width,
+            [](const Byte* from, Byte* to) {
+                const Words words = loadBlock(from);
+                if (isAny(~words & pictureAlpha))
+                    return false;
+                storeBlock(to, surfaceBlock(words));
+                return true;
+            },
+            one);
+}
+
 Glib::RefPtr<Gdk::Pixbuf> emptyPicture(const SurfacePixels& pixels) {
     return Glib::wrap(gdk_pixbuf_new(GDK_COLORSPACE_RGB, true, 8, pixels.width, pixels.height));
 }
@@ -204,6 +240,18 @@ std::optional<SurfacePixels> readableTarget(const Cairo::RefPtr<Cairo::Context>&
     const Byte* const first =
         data + static_cast<std::ptrdiff_t>(y) * stride + static_cast<std::ptrdiff_t>(x) * bytes;
     return SurfacePixels{first, stride, width, height, format == CAIRO_FORMAT_ARGB32};
+}
+
+bool isWholeExposed(const Cairo::RefPtr<Cairo::Context>& context, int width, int height) {
+    // The extents alone would not do: they also cover the holes of a clip that is made of several rectangles.
+    std::vector<Cairo::Rectangle> clip;
+    try {
+        context->copy_clip_rectangle_list(clip);
+    } catch (const std::exception&) {
+        return false; // not made of rectangles
+    }
+    return clip.size() == 1 && clip[0].x <= 0 && clip[0].y <= 0 && clip[0].x + clip[0].width >= width &&
+           clip[0].y + clip[0].height >= height;
 }
 
 Glib::RefPtr<Gdk::Pixbuf> makePicture(const SurfacePixels& pixels) {
@@ -262,21 +310,33 @@ void compose(const SurfacePixels& pixels, Zel::Color transparent, Gdk::Pixbuf& o
 }
 
 void compose(const Gdk::Pixbuf& picture, int width, int height, Gdk::Pixbuf& onto) {
-    passOfLittle(
-        picture.get_pixels(), picture.get_rowstride(), width, height, onto,
-        [](Words words) { return words & pictureAlpha; },
-        [](const Byte* from, Byte* to) {
-            const Words words = loadBlock(from);
-            const Words alpha = words & pictureAlpha;
-            const Words isSolid = Words(alpha == pictureAlpha);
-            if (isAny(alpha & ~isSolid))
-                return false;
-            storeBlock(to, (words & isSolid) | (loadBlock(to) & ~isSolid));
-            return true;
-        },
-        [](const Byte* from, Byte* to) {
-            layOver(to, {from[0], from[1], from[2], from[3]});
-        });
+    layOver(picture, width, height, onto, [](const Byte* from, Byte* to) {
+        layOver(to, {from[0], from[1], from[2], from[3]});
+    });
+}
+
+Glib::RefPtr<Gdk::Pixbuf> merge(const std::vector<Glib::RefPtr<Gdk::Pixbuf>>& pictures) {
+    Glib::RefPtr<Gdk::Pixbuf> merged;
+    bool isExact = true;
+    for (const Glib::RefPtr<Gdk::Pixbuf>& picture : pictures) {
+        if (!picture || !picture->get_has_alpha())
+            return {};
+        if (!merged) {
+            merged = Glib::wrap(
+                gdk_pixbuf_new(GDK_COLORSPACE_RGB, true, 8, picture->get_width(), picture->get_height()));
+            if (!merged)
+                return {};
+            merged->fill(0);
+        }
+        if (picture->get_width() != merged->get_width() || picture->get_height() != merged->get_height())
+            return {};
+        layOver(
+            *picture.operator->(), picture->get_width(), picture->get_height(), *merged.operator->(),
+            [&isExact](const Byte* from, Byte*) { isExact = isExact && (from[3] == 0 || from[3] == 0xff); });
+        if (!isExact)
+            return {};
+    }
+    return merged;
 }
 
 Cairo::RefPtr<Cairo::ImageSurface> makeSurface(const Gdk::Pixbuf& picture) {
@@ -284,22 +344,26 @@ Cairo::RefPtr<Cairo::ImageSurface> makeSurface(const Gdk::Pixbuf& picture) {
     const int height = picture.get_height();
     const Cairo::RefPtr<Cairo::ImageSurface> surface =
         Cairo::ImageSurface::create(Cairo::FORMAT_ARGB32, width, height);
-    for (int y = 0; y < height; ++y)
-        passRow(
-            picture.get_pixels() + std::ptrdiff_t(y) * picture.get_rowstride(),
-            surface->get_data() + std::ptrdiff_t(y) * surface->get_stride(), width,
-            [](const Byte* from, Byte* to) {
-                const Words words = loadBlock(from);
-                if (isAny(~words & pictureAlpha))
-                    return false;
-                storeBlock(to, surfaceBlock(words));
-                return true;
-            },
-            [](const Byte* from, Byte* to) {
-                store(to, premultiplied({from[0], from[1], from[2], from[3]}));
-            });
+    toSurface(picture, width, height, surface->get_data(), surface->get_stride(),
+              [](const Byte* from, Byte* to) {
+                  store(to, premultiplied({from[0], from[1], from[2], from[3]}));
+              });
     surface->mark_dirty();
     return surface;
+}
+
+bool copyOpaque(const Gdk::Pixbuf& picture, const SurfacePixels& pixels) {
+    bool isOpaque = true;
+    // What is readable here is an image's own memory.
+    toSurface(picture, std::min(pixels.width, picture.get_width()),
+              std::min(pixels.height, picture.get_height()), const_cast<Byte*>(pixels.data), pixels.stride,
+              [&isOpaque](const Byte* from, Byte* to) {
+                  if (from[3] == 0xff)
+                      store(to, premultiplied({from[0], from[1], from[2], from[3]}));
+                  else
+                      isOpaque = false;
+              });
+    return isOpaque;
 }
 
 } // namespace ZelView::Fragments

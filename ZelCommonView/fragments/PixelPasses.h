@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace ZelView::Fragments {
 
@@ -28,6 +29,10 @@ struct SurfacePixels {
 std::optional<SurfacePixels> readableTarget(const Cairo::RefPtr<Cairo::Context>& context, int width,
                                             int height);
 
+/// Whether what is painted within the first `width` by `height` units from the user origin reaches the
+/// target.
+bool isWholeExposed(const Cairo::RefPtr<Cairo::Context>& context, int width, int height);
+
 /// A new picture of the pixels, with alpha and not premultiplied; null where there is no memory. Equal to the
 /// byte to a copy on an ARGB32 surface that `Gdk::Pixbuf::create` reads.
 Glib::RefPtr<Gdk::Pixbuf> makePicture(const SurfacePixels& pixels);
@@ -42,6 +47,13 @@ void compose(const SurfacePixels& pixels, Zel::Color transparent, Gdk::Pixbuf& o
 /// 1 and offset 0 with full opacity. Both have alpha and are at least of this size.
 void compose(const Gdk::Pixbuf& picture, int width, int height, Gdk::Pixbuf& onto);
 
+/// One picture that shows all of them, the later ones above the earlier. Composing it gives the same bytes as
+/// composing one after the other. Null where that can't be, since they differ in size or hold translucent
+/// pixels, and where there is no memory or nothing to merge.
+Glib::RefPtr<Gdk::Pixbuf> merge(const std::vector<Glib::RefPtr<Gdk::Pixbuf>>& pictures);
+
+/// Copies the opaque pixels of a picture with alpha to those of an image, and tells whether all are.
+bool copyOpaque(const Gdk::Pixbuf& picture, const SurfacePixels& pixels);
 /// The picture, which has alpha, on a new surface. Equal to the byte to the one that
 /// `Gdk::Cairo::set_source_pixbuf` makes. Throws what cairomm throws where there is no memory.
 Cairo::RefPtr<Cairo::ImageSurface> makeSurface(const Gdk::Pixbuf& picture);
