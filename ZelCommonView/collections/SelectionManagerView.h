@@ -23,7 +23,8 @@ public:
     /// Puts in the view under which the items stand, which stays its presenter's; null and what is no widget
     /// are ignored.
     virtual void setContent(IView* content) = 0;
-    /// Whether an item is to be selected whenever there is one. Switching it on selects the first one.
+    /// Whether an item is to be selected whenever there is one; false at first. Switching it on selects the
+    /// first one, also while another one is selected; that is meant.
     virtual void setAutoselect(bool value) = 0;
     /// The presenter of the selected item; null without one.
     virtual IPresenter* getSelectedItem() = 0;

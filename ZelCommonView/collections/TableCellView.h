@@ -15,7 +15,7 @@ class ZEL_API ITableCellView : public IView {
 public:
     ~ITableCellView() override;
 
-    /// The text of the cell.
+    /// Sets the text of the cell, UTF-8; empty at first.
     virtual void setTitle(const std::string& title) = 0;
     /// Whether the cell takes room that is left over; in a table the header cell of the column decides.
     virtual void setHorizontalExpand(bool value) = 0;

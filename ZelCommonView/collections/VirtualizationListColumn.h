@@ -39,10 +39,11 @@ public:
 /// The text of a cell.
 class ZEL_API CellDataView : public IView {
 public:
+    /// Takes the text, empty by default.
     explicit CellDataView(std::string text = {});
     ~CellDataView() override;
 
-    std::string text;
+    std::string text; ///< UTF-8; a change is shown by `updateCell`
 };
 
 } // namespace Zel

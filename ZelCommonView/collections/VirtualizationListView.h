@@ -58,8 +58,8 @@ public:
         TreeColumns();
         ~TreeColumns() override;
 
-        Gtk::TreeModelColumn<IRowPresenter*> rowPresenter;
-        std::vector<Gtk::TreeModelColumn<std::string>> texts;
+        Gtk::TreeModelColumn<IRowPresenter*> rowPresenter;    ///< not owned
+        std::vector<Gtk::TreeModelColumn<std::string>> texts; ///< one for each column of the list
     };
 
     VirtualizationListView();

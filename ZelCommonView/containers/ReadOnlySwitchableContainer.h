@@ -31,9 +31,9 @@ public:
 /// Lifting the lock makes every control sensitive, also one that the application had made insensitive.
 class ZEL_API ReadOnlySwitchableContainer : public Gtk::Bin, public virtual IReadOnlySwitchableContainerView {
 public:
-    static const Glib::ustring EXEMPT_CLASS;
-    static const Glib::ustring INTERACTIVE_CLASS;
-    static const Glib::ustring COLLAPSED_CLASS;
+    static const Glib::ustring EXEMPT_CLASS;      ///< "readonly-exempt"
+    static const Glib::ustring INTERACTIVE_CLASS; ///< "readonly-interactive"
+    static const Glib::ustring COLLAPSED_CLASS;   ///< "readonly-collapsed"
 
     ReadOnlySwitchableContainer();
     ~ReadOnlySwitchableContainer() override;

@@ -17,7 +17,7 @@ class ZEL_API IResultStateView : public IView {
 public:
     ~IResultStateView() override;
 
-    /// The text of the result.
+    /// Sets the text of the result, UTF-8; empty at first.
     virtual void setText(const std::string& text) = 0;
 
     /// A longer explanation behind a "?" mark; the empty text takes the mark away.

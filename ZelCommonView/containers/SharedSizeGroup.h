@@ -28,6 +28,7 @@ private:
 /// an owner that stands in none stays in the group until it comes somewhere else.
 class ZEL_API SharedSizeGroup : public Gtk::Bin {
 public:
+    /// A cell of the group of this name, which never changes.
     explicit SharedSizeGroup(const std::string& groupName);
     ~SharedSizeGroup() override;
 

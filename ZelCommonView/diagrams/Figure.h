@@ -31,10 +31,10 @@ public:
     void getRangeX(float& min, float& max) const override;
     void getRangeY(float& min, float& max) const override;
 
-    float x = 0; ///< centre, world units
-    float y = 0;
-    float radius = 0; ///< world units
-    Color color;
+    float x = 0;         ///< centre, world units
+    float y = 0;         ///< centre, world units
+    float radius = 0;    ///< world units
+    Color color;         ///< of the outline and of the inside; opaque black at first
     std::string text;    ///< caption; may be empty
     bool filled = false; ///< filled with `color`, too
 };
@@ -47,8 +47,8 @@ public:
     void getRangeY(float& min, float& max) const override;
 
     float x = 0; ///< world units
-    float y = 0;
-    Color color;
+    float y = 0; ///< world units
+    Color color; ///< opaque black at first
 };
 
 /// A path through points, or a dot for each of them. Its limits follow the same rules as those of `Series`.
@@ -58,7 +58,7 @@ public:
     void getRangeY(float& min, float& max) const override;
 
     std::vector<PointF> points; ///< world units, in drawing order
-    Color color;
+    Color color;                ///< opaque black at first
     std::string text;    ///< painted at the origin of the draw area, not at the figure; mostly left empty
     bool closed = false; ///< the path returns to its first point
     bool lines = true;   ///< a path; otherwise a dot for each point

@@ -25,7 +25,7 @@ public:
                                    const Zel::Figure& figure) = 0;
 
     const CoordsConverter* converter = nullptr; ///< set by `FiguresDrawer`, not owned
-    std::unique_ptr<BaseFigureDrawer> next;
+    std::unique_ptr<BaseFigureDrawer> next;     ///< the next link; null at the end of the chain
 };
 
 /// Paints figures of one type and leaves all others to the other links. An application makes links for
@@ -41,6 +41,7 @@ public:
             _onDraw(context, *t);
     }
 
+    /// Paints a figure of the type `T`; with the same context as `_onDrawBaseFigure`.
     virtual void _onDraw(const Cairo::RefPtr<Cairo::Context>& context, const T& figure) = 0;
 };
 

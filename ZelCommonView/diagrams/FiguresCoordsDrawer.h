@@ -12,11 +12,11 @@ class IScrollInfo;
 
 /// How a `FiguresCoordsDrawer` names the axes; in pixels.
 struct FiguresCoordsDrawerCfg {
-    float headerFontSize = 14;
-    float rightMargin = 10;  ///< right of the horizontal header
-    float bottomMargin = 10; ///< above the viewport's bottom, for what sticks there
-    float leftMargin = 10;   ///< right of the viewport's left edge, for what sticks there
-    float topMargin = 10;    ///< below the viewport's top, for the vertical header
+    float headerFontSize = 14; ///< of the names of the axes
+    float rightMargin = 10;    ///< right of the horizontal header
+    float bottomMargin = 10;   ///< above the viewport's bottom, for what sticks there
+    float leftMargin = 10;     ///< right of the viewport's left edge, for what sticks there
+    float topMargin = 10;      ///< below the viewport's top, for the vertical header
 };
 
 /// The grid of a plane that is zoomed and scrolled: the numbers of an axis that has been scrolled out of the
@@ -24,6 +24,7 @@ struct FiguresCoordsDrawerCfg {
 /// name is left out.
 class ZEL_API FiguresCoordsDrawer : public CoordsDrawer {
 public:
+    /// Copies both configurations.
     explicit FiguresCoordsDrawer(const CoordsDrawerCfg& cfg = CoordsDrawerCfg(),
                                  const FiguresCoordsDrawerCfg& figuresCfg = FiguresCoordsDrawerCfg());
     ~FiguresCoordsDrawer() override;

@@ -34,8 +34,8 @@ protected:
     /// content. Places on other windows, and on none, are returned as they are.
     Zel::PointF _getPlaceInViewport(GdkWindow* window, double x, double y);
 
-    Gtk::Widget* currentWidget = nullptr; ///< the content; not owned
-    ScrolledWindowAdjustments adjustments;
+    Gtk::Widget* currentWidget = nullptr;  ///< the content; not owned
+    ScrolledWindowAdjustments adjustments; ///< tells what is in view
 
 private:
     bool _onPress(GdkEventButton* event);

@@ -22,8 +22,8 @@ public:
     ZoomableScrolledWindow(unsigned int minScale, unsigned int maxScale, unsigned int scaleStep);
     ~ZoomableScrolledWindow() override;
 
-    /// Sets the scale, limited to the range, and keeps what is seen in the middle there. Emits nothing.
-    /// Does nothing without content.
+    /// Sets the scale, in percent and limited to the range, and keeps what is seen in the middle there. Emits
+    /// nothing. Does nothing without content.
     void setSize(unsigned int scale);
 
     /// Lets the wheel over a widget that stands over this window zoom as well, about the middle. The widget

@@ -18,7 +18,7 @@ class ZEL_API IAboutView : public IView {
 public:
     ~IAboutView() override;
 
-    /// UTF-8.
+    /// The name of the program, UTF-8; none is shown at first.
     virtual void setProgramName(const std::string& name) = 0;
     /// Shows the line with the version; an empty text changes nothing.
     virtual void setVersion(const std::string& version) = 0;

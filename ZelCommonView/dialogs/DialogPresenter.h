@@ -20,11 +20,11 @@ namespace Zel {
 /// The buttons of a message dialog, joined by `|`, and the one that was pressed. 0 means no button: as a
 /// result, that the dialog was closed by other means.
 enum class DialogResult : int {
-    Yes = 2,
-    No = 4,
-    Apply = 8,
-    Ok = 16,
-    Cancel = 32,
+    Yes = 2,     ///< "Yes" or "Да"
+    No = 4,      ///< "No" or "Нет"
+    Apply = 8,   ///< "Apply" or "Применить"
+    Ok = 16,     ///< "OK"
+    Cancel = 32, ///< "Cancel" or "Отмена"
 };
 
 /// The buttons of both.

@@ -23,6 +23,7 @@ public:
 /// A fixed description.
 class ZEL_API ShellDescriptor : public IZelShellDescriptor {
 public:
+    /// Keeps what it is given; the name is UTF-8, and no file is looked for.
     ShellDescriptor(const std::string& name, const std::string& iconPath, bool hasEmbededHardware);
     ~ShellDescriptor() override;
 

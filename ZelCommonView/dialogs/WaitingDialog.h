@@ -29,7 +29,7 @@ public:
     /// Shows or hides the button. Also shows the dialog itself.
     void setCancelable(bool value);
 
-    /// Replaces the message.
+    /// Replaces the message, which is plain text.
     void set_message(const Glib::ustring& value);
 
 private:

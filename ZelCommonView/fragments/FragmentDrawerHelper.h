@@ -38,6 +38,7 @@ struct Fragment {
 /// composition are steps of their own. Both make the same picture to the byte.
 class ZEL_API FragmentDrawerHelper {
 public:
+    /// The widget gives the size, and must outlive the helper.
     explicit FragmentDrawerHelper(const Gtk::Widget& widget);
     FragmentDrawerHelper(const FragmentDrawerHelper&) = delete;
     FragmentDrawerHelper& operator=(const FragmentDrawerHelper&) = delete;

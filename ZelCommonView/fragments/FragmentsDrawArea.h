@@ -55,7 +55,8 @@ public:
     /// colour. What else a fragment's picture depends on must then be told by a mark. Layers are painted at
     /// each repaint as ever, and all pictures are the same to the byte. Initially false. Asks for no repaint.
     void setIsRetaining(bool value);
-    /// While frozen the area shows the last composed picture and paints nothing else. Asks for no repaint.
+    /// While frozen the area shows the last composed picture and paints nothing else; false at first. Asks
+    /// for no repaint.
     void setIsFreezed(bool value);
 
     /// Saves the fragment's own image to a file of a gdk-pixbuf type such as "png". One that was never

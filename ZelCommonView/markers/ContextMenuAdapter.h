@@ -15,6 +15,7 @@ namespace ZelView {
 /// adapter is gone.
 class ZEL_API ContextMenuAdapter : public sigc::trackable {
 public:
+    /// The widget stays the caller's.
     explicit ContextMenuAdapter(Gtk::Widget& widget);
     ~ContextMenuAdapter();
     ContextMenuAdapter(const ContextMenuAdapter&) = delete;

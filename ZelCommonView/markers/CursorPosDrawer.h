@@ -16,16 +16,16 @@ namespace ZelView {
 struct CursorPosDrawerCfg {
     /// Bits of `flags`.
     enum Flag : std::uint32_t {
-        ShowX = 1,
-        ShowY = 2,
+        ShowX = 1, ///< x in the readout
+        ShowY = 2, ///< y in the readout
     };
 
-    std::uint32_t flags = 0xFFFFFFFF;
-    float fontSize = 12; ///< of the readout
-    float lineWidth = 1; ///< of the cross
-    float reserved1 = 2; ///< not read
-    float reserved2 = 4; ///< not read
-    Zel::Color textColor = {0, 0, 0, 255};
+    std::uint32_t flags = 0xFFFFFFFF;         ///< bits of `Flag`; both at first
+    float fontSize = 12;                      ///< of the readout
+    float lineWidth = 1;                      ///< of the cross
+    float reserved1 = 2;                      ///< not read
+    float reserved2 = 4;                      ///< not read
+    Zel::Color textColor = {0, 0, 0, 255};    ///< of the readout
     float reserved3 = 2;                      ///< not read
     Zel::Color reserved4 = {0, 0, 255, 255};  ///< not read
     Zel::Color reserved5 = {81, 255, 0, 122}; ///< not read

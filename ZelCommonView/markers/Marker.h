@@ -18,8 +18,8 @@ struct MarkerDrawerCfg;
 
 /// How many points a marker has.
 enum class MarkerType : std::uint32_t {
-    Single = 0,
-    Double = 1,
+    Single = 0, ///< one line
+    Double = 1, ///< two lines and what is between them
 };
 
 /// A marker holds world points, so it stays on the signal when the view changes. It is being created until
@@ -62,27 +62,34 @@ public:
 
 protected:
     // Points are numbered from 1.
+    /// The point of this number, in world units.
     Zel::PointF _getPoint(unsigned long number) const;
+    /// From now on this point moves; `offset` leads from the cursor to the label's centre, in pixels.
     void _selectPoint(unsigned long number, Zel::PointF offset);
     /// 0 when no point moves.
     unsigned long _getCurrentPointNumber() const;
+    /// As `_getSelectedPointNumber`, but 9, which is no point's number, while the marker is being created.
+    /// That is meant: it is then drawn with all its points.
     unsigned long _getCreatingPointNumber() const;
+    /// The point of a finished marker that is dragged; 0 for none, and while the marker is being created.
     unsigned long _getSelectedPointNumber() const;
+    /// Moves the current point, if there is one, to the pixel, stopping at the edges of the widget.
     void _updateCurrentPointPos(Zel::PointF pixel);
 
-    const CoordsConverter* converter = nullptr;
-    const MarkerDrawerCfg& cfg;
-    MarkerDrawerHelper helper;
-    Orientation orientation;
-    bool created = false;
-    std::vector<Zel::PointF> points; ///< world units
-    std::size_t current = 0;         ///< the point that moves; past the end when none
-    Zel::PointF grabOffset;          ///< from the cursor to the label's centre, pixels
+    const CoordsConverter* converter = nullptr; ///< not owned
+    const MarkerDrawerCfg& cfg;                 ///< not owned
+    MarkerDrawerHelper helper;                  ///< paints lines and labels
+    Orientation orientation;                    ///< as given at construction
+    bool created = false;                       ///< all points have been fixed
+    std::vector<Zel::PointF> points;            ///< world units
+    std::size_t current = 0;                    ///< the point that moves; past the end when none
+    Zel::PointF grabOffset;                     ///< from the cursor to the label's centre, pixels
 };
 
 /// One line with its value.
 class ZEL_API SingleMarker : public Marker {
 public:
+    /// One point; as with `Marker`.
     SingleMarker(const MarkerDrawerCfg& cfg, Orientation orientation);
 
     void drawAsCreating(const Cairo::RefPtr<Cairo::Context>& context) const override;
@@ -96,6 +103,7 @@ public:
 /// handle.
 class ZEL_API DoubleMarker : public Marker {
 public:
+    /// Two points; as with `Marker`.
     DoubleMarker(const MarkerDrawerCfg& cfg, Orientation orientation);
 
     void drawAsCreating(const Cairo::RefPtr<Cairo::Context>& context) const override;

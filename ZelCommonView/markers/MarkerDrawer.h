@@ -27,6 +27,7 @@ public:
     /// A marker is about to be deleted.
     sigc::signal<void, Marker&> markerRemoved;
 
+    /// Copies the configuration.
     explicit MarkerDrawer(const MarkerDrawerCfg& cfg = MarkerDrawerCfg());
     ~MarkerDrawer() override;
 

@@ -15,6 +15,7 @@ struct MarkerDrawerTextCfg;
 /// outlive it.
 class ZEL_API MarkerTextDrawer {
 public:
+    /// The configuration stays the caller's.
     explicit MarkerTextDrawer(const MarkerDrawerTextCfg& cfg);
 
     /// Paints the box and the text in it; `selected` chooses the border.

@@ -60,7 +60,9 @@ protected:
     /// After `toolbarGroup` has become another one. The default does nothing.
     virtual void _onToolbarGroupChange();
 
+    /// The plot of this number, counted from 0; it and those before it are made where they are missing.
     SeriesGroupDrawArea& _getSeriesGroupDrawArea(unsigned long index);
+    /// Makes one more plot, lets `_onDrawAreaCreate` fill it, and then emits `signalDrawAreaCreated`.
     void _createDrawArea();
 
 private:

@@ -50,7 +50,8 @@ public:
     /// that is set already changes nothing, nor does a first one of exactly 1; that is meant. Below 0 throws
     /// "некорректная длительность серий", a `const char*`.
     virtual void setSeriesDuration(float duration) = 0;
-    /// Shades a stretch of time on all plots; equal bounds show nothing.
+    /// Shades a stretch of time on all plots, in the unit of the series' x; either bound may be the earlier
+    /// one. Equal bounds, as at first, show nothing.
     virtual void setHorizontalInterval(float from, float to) = 0;
     /// Whether the check button is set; it is from the beginning.
     virtual bool isActive() = 0;

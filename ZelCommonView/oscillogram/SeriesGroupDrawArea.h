@@ -68,7 +68,7 @@ public:
     /// Replaces the converter and tells all drawers; all fragments are painted anew. Throws
     /// "_createConverter", a `const char*`, for any other value, and the converter then stays.
     void setCoordsConvertMode(CoordsConvertMode mode);
-    /// Margins in pixels; all fragments are painted anew.
+    /// Margins in pixels, all 0 at first; all fragments are painted anew.
     void setOffset(CoordsConverter::Offset offset);
 
     /// Gives the canvas the width of others.

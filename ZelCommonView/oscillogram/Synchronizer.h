@@ -18,8 +18,8 @@ class SynchronizerFacade;
 
 /// A stretch of the time axis, in world units.
 struct TimeRange {
-    float from = 0;
-    float to = 0;
+    float from = 0; ///< in the unit of the series' x
+    float to = 0;   ///< the same unit
 };
 
 /// The root of all synchronizers. Slots that are bound to one die with it.
@@ -75,7 +75,8 @@ public:
     /// Offers the drawer to each synchronizer in order.
     void addDrawer(Drawer& drawer);
 
-    std::vector<std::unique_ptr<BaseDrawerSynchronizer>> synchronizers;
+    std::vector<std::unique_ptr<BaseDrawerSynchronizer>>
+        synchronizers; ///< in the order in which drawers are offered
 };
 
 } // namespace ZelView

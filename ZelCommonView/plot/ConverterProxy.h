@@ -39,9 +39,10 @@ public:
 
     /// Size of the widget in pixels; 0 is allowed. Throws "setWidgetSize" if either is below 0.
     void setWidgetSize(float width, float height);
-    /// Margins in pixels, unchecked.
+    /// Margins in pixels, unchecked; all 0 at first.
     void setOffset(CoordsConverter::Offset offset);
-    /// Stores the mode and nothing else: the limits stay until something sets or recalculates them.
+    /// Stores the mode, automatic at first, and nothing else: the limits stay until something sets or
+    /// recalculates them.
     void setXBordersMode(BordersMode mode);
     /// Stores the mode and nothing else, like `setXBordersMode`.
     void setYBordersMode(BordersMode mode);

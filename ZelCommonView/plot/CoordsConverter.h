@@ -15,8 +15,8 @@ enum class BordersMode : std::uint32_t {
 
 /// Whether the two axes may stretch independently.
 enum class CoordsConvertMode : std::uint32_t {
-    Stretchable = 0,
-    Proportional = 1,
+    Stretchable = 0,  ///< each axis fills its side of the widget
+    Proportional = 1, ///< one unit is equally long on both axes
 };
 
 /// Maps world units to pixels. All arithmetic is in 32-bit float, in the association that the sources show.
@@ -27,18 +27,18 @@ class ZEL_API CoordsConverter {
 public:
     /// World limits.
     struct Border {
-        float xMin = 0;
-        float xMax = 0;
-        float yMin = 0;
-        float yMax = 0;
+        float xMin = 0; ///< world units
+        float xMax = 0; ///< world units
+        float yMin = 0; ///< world units
+        float yMax = 0; ///< world units
     };
 
     /// Margins, pixels.
     struct Offset {
-        float left = 0;
-        float right = 0;
-        float top = 0;
-        float bottom = 0;
+        float left = 0;   ///< pixels
+        float right = 0;  ///< pixels
+        float top = 0;    ///< pixels
+        float bottom = 0; ///< pixels
     };
 
     CoordsConverter();
@@ -79,20 +79,20 @@ public:
     float rowHeight = 16;     ///< pixels between the rows of binary series
     float onePulseHeight = 3; ///< pixels from a binary row's centre to the edge of its box
     float widgetWidth = 0;    ///< whole widget, pixels
-    float widgetHeight = 0;
-    float xMin; ///< world limits of the view
-    float xMax;
-    float yMin;
-    float yMax;
-    Offset offset; ///< margins, pixels
+    float widgetHeight = 0;   ///< pixels
+    float xMin;               ///< world limits of the view
+    float xMax;               ///< world units
+    float yMin;               ///< world units
+    float yMax;               ///< world units
+    Offset offset;            ///< margins, pixels
 
     // Computed by `recalc`.
-    float visualWidth = 0; ///< drawable pixels
-    float visualHeight = 0;
-    float realWidth = 0; ///< world span
-    float realHeight = 0;
-    float scaleX = 0; ///< pixels per world unit
-    float scaleY = 0;
+    float visualWidth = 0;  ///< drawable pixels
+    float visualHeight = 0; ///< drawable pixels
+    float realWidth = 0;    ///< world span
+    float realHeight = 0;   ///< world span
+    float scaleX = 0;       ///< pixels per world unit
+    float scaleY = 0;       ///< pixels per world unit
 };
 
 /// Each axis fills its side of the widget.
@@ -125,7 +125,7 @@ public:
 
     float scale = 0;    ///< pixels per world unit of both axes
     float paddingX = 0; ///< free pixels on either side
-    float paddingY = 0;
+    float paddingY = 0; ///< free pixels above and below
 };
 
 } // namespace ZelView

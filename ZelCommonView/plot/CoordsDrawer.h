@@ -21,22 +21,23 @@ struct CoordsDrawerCfg {
         StepTextY = 32, ///< numbers of the horizontal grid lines
     };
 
-    std::uint32_t flags = 0xFFFFFFFF;
-    float fontSize = 12;
-    float axisLineWidth = 2;
-    float stepTextXOffsetX = 5; ///< from a vertical line's top end to its number
-    float stepTextXOffsetY = 20;
-    float stepTextYOffsetX = 10; ///< from a horizontal line's left end to its number
-    float stepTextYOffsetY = -10;
-    float minStepPixelsX = 50; ///< smallest wanted distance of vertical lines
-    float minStepPixelsY = 50; ///< smallest wanted distance of horizontal lines
-    Zel::Color color = {100, 100, 100, 255};
+    std::uint32_t flags = 0xFFFFFFFF;        ///< bits of `Flag`; all at first
+    float fontSize = 12;                     ///< of the numbers
+    float axisLineWidth = 2;                 ///< of the axes; that of the grid is 1
+    float stepTextXOffsetX = 5;              ///< from a vertical line's top end to its number
+    float stepTextXOffsetY = 20;             ///< the same, downward
+    float stepTextYOffsetX = 10;             ///< from a horizontal line's left end to its number
+    float stepTextYOffsetY = -10;            ///< the same, downward
+    float minStepPixelsX = 50;               ///< smallest wanted distance of vertical lines
+    float minStepPixelsY = 50;               ///< smallest wanted distance of horizontal lines
+    Zel::Color color = {100, 100, 100, 255}; ///< of axes, lines and numbers
 };
 
 /// Paints the axes, the dashed grid and its numbers. A host adds it before the fragments, so that curves lie
 /// over it.
 class ZEL_API CoordsDrawer : public InfoDrawer {
 public:
+    /// Copies the configuration.
     explicit CoordsDrawer(const CoordsDrawerCfg& cfg = CoordsDrawerCfg());
     ~CoordsDrawer() override;
 
@@ -54,16 +55,20 @@ protected:
     virtual void _onDrawStepLineY(const Cairo::RefPtr<Cairo::Context>& context, const std::string& text,
                                   Zel::PointF from, Zel::PointF to);
 
-    // Both ends, in pixels, of a line across the whole widget: at the first step, at the last one, at world
-    // 0.
+    /// Both ends of the vertical line at the first step, in pixels, across the whole widget.
     void _getFirstStepLineXPos(Zel::PointF& from, Zel::PointF& to) const;
+    /// Both ends of the vertical line at the last step, in pixels, across the whole widget.
     void _getLastStepLineXPos(Zel::PointF& from, Zel::PointF& to) const;
+    /// Both ends of the vertical line at world 0, in pixels, across the whole widget.
     void _getCenterStepLineXPos(Zel::PointF& from, Zel::PointF& to) const;
+    /// Both ends of the horizontal line at the first step, in pixels, across the whole widget.
     void _getFirstStepLineYPos(Zel::PointF& from, Zel::PointF& to) const;
+    /// Both ends of the horizontal line at the last step, in pixels, across the whole widget.
     void _getLastStepLineYPos(Zel::PointF& from, Zel::PointF& to) const;
+    /// Both ends of the horizontal line at world 0, in pixels, across the whole widget.
     void _getCenterStepLineYPos(Zel::PointF& from, Zel::PointF& to) const;
 
-    CoordsDrawerCfg cfg;
+    CoordsDrawerCfg cfg; ///< read by each paint
 
 private:
     void _drawAxis(const Cairo::RefPtr<Cairo::Context>& context) const;

@@ -14,6 +14,7 @@ struct CoordsDrawerCfg;
 /// sides. Where the span gives no step, or none that is finite, both are 0.
 class ZEL_API CoordsStepsCalc {
 public:
+    /// Both must outlive it.
     CoordsStepsCalc(const CoordsConverter& converter, const CoordsDrawerCfg& cfg);
 
     /// First and last line of x and the distance of lines in world units.

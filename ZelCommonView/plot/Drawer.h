@@ -79,6 +79,7 @@ public:
             _draw(context, *t);
     }
 
+    /// Paints a fragment of the type `T`, as `drawFragmentable` does.
     virtual void _draw(const Cairo::RefPtr<Cairo::Context>& context, const T& fragmentable) = 0;
 };
 

@@ -15,6 +15,7 @@ class FragmentsDrawArea;
 /// What the canvas holds of the drawers falls silent with them, so the manager may go before the canvas.
 class ZEL_API DrawersManager : public sigc::trackable {
 public:
+    /// The canvas stays the caller's and must outlive the last call.
     explicit DrawersManager(FragmentsDrawArea& fragmentsDrawArea);
     ~DrawersManager();
     DrawersManager(const DrawersManager&) = delete;

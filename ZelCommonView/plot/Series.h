@@ -13,8 +13,8 @@ namespace Zel {
 
 /// A point in world units or pixels, by context.
 struct PointF {
-    float x = 0;
-    float y = 0;
+    float x = 0; ///< grows to the right
+    float y = 0; ///< grows upward in world units and downward in pixels
 };
 
 /// A point of a trajectory.
@@ -25,9 +25,9 @@ struct TimedPointF {
 
 /// A colour of four channels, 0 to 255 each; painting divides them by 255.0.
 struct Color {
-    std::uint8_t r = 0;
-    std::uint8_t g = 0;
-    std::uint8_t b = 0;
+    std::uint8_t r = 0;   ///< red
+    std::uint8_t g = 0;   ///< green
+    std::uint8_t b = 0;   ///< blue
     std::uint8_t a = 255; ///< 255 is opaque
 };
 
@@ -100,10 +100,10 @@ public:
     const std::string& getName() const override;
     Color getColor() const override;
 
-    SeriesType type = SeriesType::Analog;
-    std::uint64_t index = 0;         ///< row of a binary series, from 0 at the top of its draw area
-    std::string name;                ///< text of the legend row
-    Color color;                     ///< line colour
+    SeriesType type = SeriesType::Analog; ///< curve or row; fixed while the series is on a plot
+    std::uint64_t index = 0;              ///< row of a binary series, from 0 at the top of its draw area
+    std::string name;                     ///< text of the legend row
+    Color color;                          ///< line colour
     std::vector<PointF> points;      ///< world units, in drawing order; a binary is off where y is 0, else on
     float thickness = 1;             ///< line width, pixels
     std::uint32_t drawAreaIndex = 0; ///< draw area of its section, from 0 at the top

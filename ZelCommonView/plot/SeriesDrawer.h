@@ -34,6 +34,7 @@ public:
     void _draw(const Cairo::RefPtr<Cairo::Context>& context, const Zel::Series& series) override;
 
 protected:
+    /// Line width of the series, in pixels.
     float _getSeriesThickness(const Zel::Series& series) const;
     /// The first y that isn't 0, not-a-number included; 0 if there is none.
     float _getFirstNonZeroY(const Zel::Series& series) const;

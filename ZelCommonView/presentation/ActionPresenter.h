@@ -16,6 +16,7 @@ class ZEL_API IActionView : public IView {
 public:
     ~IActionView() override;
 
+    /// The button was pressed, by the pointer or by the keyboard.
     sigc::signal<void> signalClicked;
 };
 

@@ -21,6 +21,7 @@ public:
     /// Adds a style class. None is ever removed: those of successive calls stand together.
     virtual void setStyle(const std::string& styleClass) = 0;
 
+    /// The button was pressed, by the pointer or by the keyboard.
     sigc::signal<void> signalClicked;
 };
 

@@ -90,7 +90,7 @@ public:
 
     /// Takes the title row away or puts it back above the child.
     void hideTitle(bool hide);
-    /// Whether all in the title row are equally wide.
+    /// Whether all in the title row are equally wide; false at first.
     void setTitleHomogeneous(bool homogeneous);
     /// Puts a widget into the title row; it stays the caller's.
     void addToTitle(Gtk::Widget& widget);

@@ -28,8 +28,10 @@ protected:
         made->signalClosed.connect(sigc::mem_fun(*this, &WindowBasePresenter::_onViewClosed));
     }
 
+    /// Passes on that the window is shown.
     void _onViewOpened() { emitKept(signalOpened); }
 
+    /// Passes on that the window is gone; the presenter may be deleted then.
     void _onViewClosed() { emitKept(signalClosed); }
 };
 

@@ -1,29 +1,54 @@
 #include "Look.h"
 
 #include <ZelCommonView/common/Directories.h>
+#include <ZelCommonView/diagrams/Style.h>
 
-#include <gdkmm/screen.h>
-#include <gtkmm/cssprovider.h>
+#include <gtkmm/settings.h>
 #include <gtkmm/stylecontext.h>
+#include <gtkmm/window.h>
 
 #include <iostream>
 
 namespace examples {
 
+namespace {
+
+const char* const themeVariable = "GTK_THEME";
+
+/// How bright a colour is to the eye, 0 to 1.
+double brightnessOf(const Gdk::RGBA& color) {
+    return 0.299 * color.get_red() + 0.587 * color.get_green() + 0.114 * color.get_blue();
+}
+
+bool loadSheet() {
+    try {
+        ZelView::Style::setStyle("style.css");
+        return true;
+    } catch (const Glib::Error& error) {
+        std::cerr << "The look of the widgets can't be read from " << Zel::getThemesDir()
+                  << "style.css: " << error.what() << '\n';
+        return false;
+    }
+}
+
+} // namespace
+
 void installLook() {
-    static const Glib::RefPtr<Gtk::CssProvider> provider = [] {
-        const auto made = Gtk::CssProvider::create();
-        const std::string path = Zel::getThemesDir() + "style.css";
-        try {
-            made->load_from_path(path);
-        } catch (const Glib::Error& error) {
-            std::cerr << "The look of the widgets can't be read from " << path << ": " << error.what()
-                      << '\n';
-        }
-        Gtk::StyleContext::add_provider_for_screen(Gdk::Screen::get_default(), made,
-                                                   GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
-        return made;
-    }();
+    [[maybe_unused]] static const bool isLoaded = loadSheet();
+}
+
+void setDark(bool isDark) {
+    // The variable has the last word in Gtk as long as it is there.
+    g_unsetenv(themeVariable);
+    const auto settings = Gtk::Settings::get_default();
+    settings->property_gtk_theme_name() = "Adwaita";
+    settings->property_gtk_application_prefer_dark_theme() = isDark;
+}
+
+bool isDark() {
+    // Light text stands on something dark.
+    const Gtk::Window window;
+    return brightnessOf(window.get_style_context()->get_color(Gtk::STATE_FLAG_NORMAL)) > 0.5;
 }
 
 } // namespace examples

@@ -14,6 +14,7 @@ Arguments parseArguments(int argc, char** argv) {
     Arguments arguments;
     Glib::ustring page = none;
     Glib::ustring language = none;
+    Glib::ustring look = none;
     std::string folder = none;
     Glib::OptionGroup::vecustrings rest;
 
@@ -25,6 +26,8 @@ Arguments parseArguments(int argc, char** argv) {
     group.add_entry(
         entry("lang", "Language of the texts; pictures are made in both unless it is given", "en|ru"),
         language);
+    group.add_entry(
+        entry("look", "Light or dark; pictures are made in both unless it is given", "light|dark"), look);
     group.add_entry(entry(G_OPTION_REMAINING, ""), rest);
 
     Glib::OptionContext context("- shows the widgets of the library, page by page");
@@ -41,6 +44,8 @@ Arguments parseArguments(int argc, char** argv) {
         throw ArgumentsError("there is no page \"" + page + "\"; --list names all of them");
     if (language != none && language != "en" && language != "ru")
         throw ArgumentsError("--lang takes \"en\" or \"ru\", and not \"" + language + "\"");
+    if (look != none && look != "light" && look != "dark")
+        throw ArgumentsError("--look takes \"light\" or \"dark\", and not \"" + look + "\"");
     if (folder.empty())
         throw ArgumentsError("--png takes the folder for the pictures");
     if (arguments.isList && (page != none || folder != none.raw()))
@@ -49,6 +54,8 @@ Arguments parseArguments(int argc, char** argv) {
         arguments.page = page;
     if (language != none)
         arguments.language = language;
+    if (look != none)
+        arguments.look = look;
     if (folder != none.raw())
         arguments.pictureFolder = folder;
     return arguments;

@@ -10,6 +10,7 @@ struct Arguments {
     std::string page;          ///< empty for all pages
     std::string pictureFolder; ///< pictures are written there in place of a window
     std::string language;      ///< "en", "ru" or empty for what is usual
+    std::string look;          ///< "light", "dark" or empty for what is usual
     bool isList = false;
 };
 

@@ -1,6 +1,7 @@
 // The pages in their order, one line for each: the file in pages/, the name on the command line, the title in
 // English and in Russian. To be included where PAGE is defined; the file X.cpp defines makeXPage().
 
+PAGE(Oscillogram, "oscillogram", "Oscillogram", "Осциллограмма")
 PAGE(Geometry, "geometry", "Two converters", "Два преобразования")
 PAGE(Canvas, "canvas", "Canvas of fragments", "Холст из фрагментов")
 PAGE(Curves, "curves", "Curves, rows and grid", "Кривые, дискреты и сетка")
@@ -10,9 +11,13 @@ PAGE(Overlays, "overlays", "Interval and cursor", "Интервал и курс�
 PAGE(Range, "range", "Range of a record", "Диапазон записи")
 PAGE(Frames, "frames", "Frames and separators", "Рамки и разделители")
 PAGE(Hodograph, "hodograph", "Hodograph", "Годограф")
+PAGE(Replay, "replay", "Replay with a clock", "Повтор по часам")
 PAGE(Plane, "plane", "Plane of figures", "Плоскость фигур")
+PAGE(Export, "export", "Picture without a window", "Картинка без окна")
+PAGE(Scrolling, "scrolling", "Content like a map", "Содержимое как карта")
 PAGE(Numbers, "numbers", "Entries for numbers", "Поля для чисел")
 PAGE(Texts, "texts", "Size of texts", "Размер текста")
+PAGE(Themes, "themes", "Style sheets", "Таблицы стилей")
 PAGE(Typed, "typed", "Texts, dates and times", "Тексты, даты и время")
 PAGE(Tables, "tables", "Tables", "Таблицы")
 PAGE(Lists, "lists", "Long lists", "Длинные списки")
@@ -24,7 +29,11 @@ PAGE(Containers, "containers", "Small containers", "Малые контейне�
 PAGE(Actions, "actions", "Actions and buttons", "Действия и кнопки")
 PAGE(Windows, "windows", "Windows", "Окна")
 PAGE(Confirm, "confirm", "Window with OK and Cancel", "Окно с «OK» и «Отмена»")
+PAGE(Places, "places", "Place of a window", "Место окна")
 PAGE(Panels, "panels", "Dockable panels", "Стыкуемые панели")
+PAGE(Dropping, "dropping", "Marks for dropping", "Метки для сброса")
 PAGE(Dialogs, "dialogs", "Dialogs", "Диалоги")
+PAGE(Jobs, "jobs", "Work on another thread", "Работа в другом потоке")
 PAGE(About, "about", "About", "О программе")
 PAGE(Words, "words", "Words and numbers", "Слова и числа")
+PAGE(Services, "services", "Services for texts", "Операции с текстами")

@@ -3,6 +3,7 @@
 #include "Pages.h"
 #include "Pictures.h"
 #include "common/CommandLine.h"
+#include "common/Look.h"
 
 #include <gtkmm.h>
 
@@ -22,21 +23,37 @@ void setLanguage(const std::string& language) {
     lng::language = language == "ru" ? 1 : 0;
 }
 
+/// Leaves the user's own look unless one is named.
+void setLook(const std::string& look) {
+    if (!look.empty())
+        examples::setDark(look == "dark");
+}
+
 int printList() {
     for (const gallery::Page& page : gallery::allPages())
         std::cout << page.name << "\t" << page.getTitle() << "\n";
     return Success;
 }
 
+/// Whether an option, which may be left out, leaves this choice in.
+bool isWanted(const std::string& option, const std::string& choice) {
+    return option.empty() || option == choice;
+}
+
 int writePictures(const gallery::Arguments& arguments) {
-    for (const gallery::Page& page : gallery::allPages()) {
-        if (!arguments.page.empty() && arguments.page != page.name)
+    for (const char* look : {"light", "dark"}) {
+        if (!isWanted(arguments.look, look))
             continue;
-        for (const char* language : {"en", "ru"}) {
-            if (!arguments.language.empty() && arguments.language != language)
+        setLook(look);
+        for (const gallery::Page& page : gallery::allPages()) {
+            if (!isWanted(arguments.page, page.name))
                 continue;
-            setLanguage(language);
-            std::cout << gallery::writePicture(page, arguments.pictureFolder) << std::endl;
+            for (const char* language : {"en", "ru"}) {
+                if (!isWanted(arguments.language, language))
+                    continue;
+                setLanguage(language);
+                std::cout << gallery::writePicture(page, arguments.pictureFolder) << std::endl;
+            }
         }
     }
     return Success;
@@ -44,6 +61,7 @@ int writePictures(const gallery::Arguments& arguments) {
 
 int show(const gallery::Arguments& arguments) {
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
+    setLook(arguments.look);
     gallery::GalleryWindow window(arguments.page);
     return application->run(window);
 }

@@ -7,6 +7,7 @@
 #include <ZelCommonView/dialogs/AboutWindowActivatorPresenter.h>
 #include <ZelCommonView/dialogs/AboutWords.h>
 #include <ZelCommonView/dialogs/HelpView.h>
+#include <ZelCommonView/dialogs/ShellDescriptor.h>
 
 #include <gtkmm.h>
 
@@ -33,11 +34,13 @@ public:
     }
 
 private:
-    void _onAbout() { presenter.show(this, words("Gallery", "Галерея"), "1.0"); }
+    void _onAbout() { presenter.show(this, shell.name(), "1.0"); }
 
     /// The file lies beside the program and is shown by the desktop's program for its kind.
     void _onHelp() { Zel::HelpView().show(this, words("gallery-help-en.txt", "gallery-help-ru.txt")); }
 
+    /// How an application describes itself to parts that it shares with others.
+    const Zel::ShellDescriptor shell{words("Gallery", "Галерея"), "", false};
     Gtk::Box buttons{Gtk::ORIENTATION_HORIZONTAL, 8};
     Gtk::Button aboutButton{words("About", "О программе")};
     Gtk::Button helpButton{words("Help", "Справка")};

@@ -17,8 +17,8 @@ namespace {
 /// A framed text between its name and the buttons that change its height.
 class Row : public Gtk::Box {
 public:
-    Row(const char* title, const char* colour) : name(title), frame(text) {
-        text.set_markup(Glib::ustring::compose("<span size='xx-large' color='%1'>%2</span>", colour, title));
+    explicit Row(const char* title) : name(title), frame(text) {
+        text.set_markup(Glib::ustring::compose("<span size='xx-large'>%1</span>", title));
         text.set_size_request(-1, 200);
         frame.getWindow().set_shadow_type(Gtk::SHADOW_IN);
         set_spacing(8);
@@ -65,8 +65,8 @@ private:
                 words("Reports of the separator: %1", "Сообщений разделителя: %1"), ++moves));
     }
 
-    Row upper{words("Currents", "Токи"), "#b05000"};
-    Row lower{words("Voltages", "Напряжения"), "#0050b0"};
+    Row upper{words("Currents", "Токи")};
+    Row lower{words("Voltages", "Напряжения")};
     ZelView::SizeGroupAdapter names;
     ZelView::ButtonsToolbar toolbar{true};
     ZelView::WidgetSeparatorSequence separators{false};

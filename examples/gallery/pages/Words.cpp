@@ -5,6 +5,7 @@
 
 #include <ZelCommonView/common/ApproximateLogic.h>
 #include <ZelCommonView/common/DialogLocalization.h>
+#include <ZelCommonView/common/Language.h>
 #include <ZelCommonView/common/NumericHelper.h>
 
 #include <gtkmm.h>

@@ -1,9 +1,5 @@
 // What the buttons and entries of the pages do.
-#include "Pages.h"
-#include "Search.h"
-
-#include "support/Hands.h"
-#include "support/Pictures.h"
+#include "PageHost.h"
 
 #include <ZelCommonView/fragments/FragmentableWidget.h>
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
@@ -13,46 +9,7 @@
 #include <algorithm>
 #include <map>
 
-namespace {
-
-/// One page that is painted without being shown.
-struct PageHost {
-    explicit PageHost(const char* name)
-        : widget(gallery::findPage(name)->create()), host(*widget, 800, 500) {}
-
-    test::Picture picture() { return test::pictureOf(host.picture()); }
-
-    void press(const char* text) {
-        auto* const button = test::findLabelled<Gtk::Button>(*widget, text);
-        ASSERT_NE(button, nullptr) << text;
-        button->clicked();
-        test::settle();
-    }
-
-    void pressTool(const char* text) {
-        auto* const button = test::findLabelled<Gtk::ToolButton>(*widget, text);
-        ASSERT_NE(button, nullptr) << text;
-        g_signal_emit_by_name(button->gobj(), "clicked");
-        test::settle();
-    }
-
-    std::vector<std::string> texts() {
-        std::vector<std::string> all;
-        for (Gtk::Label* label : test::findAll<Gtk::Label>(*widget))
-            all.push_back(label->get_text());
-        return all;
-    }
-
-    bool says(const std::string& text) {
-        const std::vector<std::string> all = texts();
-        return std::find(all.begin(), all.end(), text) != all.end();
-    }
-
-    std::unique_ptr<Gtk::Widget> widget;
-    test::OffscreenHost host;
-};
-
-} // namespace
+using test::PageHost;
 
 TEST(CanvasPage, RepaintsOneDiscAndTakesTheOthersFromTheirPictures) {
     PageHost page("canvas");

@@ -2,6 +2,7 @@
 #include "Pages.h"
 #include "Pictures.h"
 #include "Search.h"
+#include "common/Look.h"
 
 #include "support/Hands.h"
 #include "support/Pictures.h"
@@ -19,6 +20,11 @@ using gallery::Page;
 
 class PagesTest : public testing::TestWithParam<Page> {
 protected:
+    PagesTest() {
+        // Nothing fades in, so that there is nothing to wait for.
+        Gtk::Settings::get_default()->property_gtk_enable_animations() = false;
+    }
+
     ~PagesTest() override { lng::language = 0; }
 };
 
@@ -43,6 +49,18 @@ TEST_P(PagesTest, PaintsSomethingBeyondItsBackgroundInBothLanguages) {
         EXPECT_GT(pictures.back().countPainted(), 2000) << int{language};
     }
     EXPECT_FALSE(pictures[0] == pictures[1]) << "both languages look alike";
+}
+
+TEST_P(PagesTest, LooksLightAndDarkAsAsked) {
+    examples::setDark(true);
+    EXPECT_TRUE(examples::isDark());
+    const test::Picture dark = test::pictureOf(gallery::paintPage(GetParam()));
+    examples::setDark(false);
+    EXPECT_FALSE(examples::isDark());
+    const test::Picture light = test::pictureOf(gallery::paintPage(GetParam()));
+    EXPECT_GT(dark.countPainted(), 2000);
+    EXPECT_GT(light.countPainted(), 2000);
+    EXPECT_FALSE(light == dark);
 }
 
 TEST_P(PagesTest, LooksTheSameEachTimeItIsPainted) {

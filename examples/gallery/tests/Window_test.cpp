@@ -2,6 +2,7 @@
 #include "GalleryWindow.h"
 #include "PageView.h"
 #include "Search.h"
+#include "common/Look.h"
 
 #include "support/Hands.h"
 #include "support/Pictures.h"
@@ -55,6 +56,42 @@ TEST(GalleryWindow, AllPagesLiveInOneWindow) {
         EXPECT_EQ(window.views.size(), allPages().size());
     }
     EXPECT_EQ(finalised, 5);
+}
+
+TEST(GalleryWindow, TheBoxAtTheSideMakesAllDarkAndLightAgain) {
+    examples::setDark(false);
+    GalleryWindow window("words");
+    EXPECT_FALSE(window.darkButton.get_active());
+    window.darkButton.set_active(true);
+    EXPECT_TRUE(examples::isDark());
+    EXPECT_TRUE(GalleryWindow("").darkButton.get_active()) << "a new window knows";
+    window.darkButton.set_active(false);
+    EXPECT_FALSE(examples::isDark());
+}
+
+TEST(GalleryWindow, TheButtonAtTheSideChangesTheLanguageOfAll) {
+    lng::language = 0;
+    GalleryWindow window("");
+    window.stack.set_visible_child("words");
+    window.show();
+    test::settle();
+    for (unsigned char language : {1, 0}) {
+        window.languageButton.clicked();
+        test::settle();
+        EXPECT_EQ(lng::language, language);
+        EXPECT_EQ(window.get_title(), language == 0 ? "Gallery of widgets" : "Галерея виджетов");
+        EXPECT_EQ(window.languageButton.get_label(), language == 0 ? "Русский" : "English");
+        EXPECT_EQ(window.getPageName(), "words") << "the same page stays open";
+        EXPECT_EQ(window.views.size(), 1u) << "the other pages are made when they are opened";
+        EXPECT_EQ(window.views.back().title.get_text(), gallery::findPage("words")->titles[language]);
+        EXPECT_TRUE(window.views.back().get_mapped());
+        for (const gallery::Page& page : allPages()) {
+            bool isNamed = false;
+            for (Gtk::Label* label : test::findAll<Gtk::Label>(window.sidebar))
+                isNamed = isNamed || label->get_text() == page.titles[language];
+            EXPECT_TRUE(isNamed) << page.titles[language];
+        }
+    }
 }
 
 TEST(PageView, ShowsThePageUntilItsSourceIsAskedFor) {

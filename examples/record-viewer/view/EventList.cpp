@@ -68,6 +68,7 @@ void EventList::setRecord(const record::Record& record) {
     std::vector<Row> made;
     std::vector<Zel::IRowPresenter*> presenters;
     made.reserve(found.size());
+    presenters.reserve(found.size());
     for (const record::Transition& transition : found)
         presenters.push_back(&made.emplace_back(*this, made.size() + 1, transition));
 

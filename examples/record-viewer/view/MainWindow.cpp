@@ -18,7 +18,7 @@ namespace {
 
 constexpr int width = 1280; // pixels
 constexpr int height = 860; // pixels
-constexpr const char* version = "0.1";
+constexpr const char* version = ZEL_VERSION;
 
 } // namespace
 

@@ -1,0 +1,86 @@
+# Takes the C++ out of the documentation. A page tells its readers only what it shows, so each ```cpp block is one of two:
+#
+# - a whole program, if it has a main function. An HTML comment before it, <!-- keys: Return -->, names keys that are to
+#   be pressed before its picture is taken, separated by blanks;
+# - otherwise the body of a function whose parameters stand in a comment before it, <!-- with: Gtk::Window& window -->.
+#
+# Between comment and block stands nothing but blank lines.
+
+# zel_docs_blocks(page out_folder): writes the blocks of a page as C++ files that name the lines of the page. Sets
+# ZEL_SNIPPETS to the file of the functions, if there are any, and ZEL_SNIPPET_COUNT to their number; ZEL_PROGRAMS to the
+# files of whole programs, and ZEL_KEYS_<name of a program> to its keys.
+function(zel_docs_blocks page folder)
+  file(RELATIVE_PATH name ${PROJECT_SOURCE_DIR} ${page})
+  string(MAKE_C_IDENTIFIER ${name} id)
+  get_filename_component(stem ${page} NAME_WE)
+  file(READ ${page} text)
+  set(bodies)
+  set(programs)
+  set(number 0)
+  set(line 1)
+  while(TRUE)
+    string(FIND "${text}" "```cpp\n" begin)
+    if(begin EQUAL -1)
+      break()
+    endif()
+    string(SUBSTRING "${text}" 0 ${begin} before)
+    math(EXPR begin "${begin} + 7")
+    string(SUBSTRING "${text}" ${begin} -1 text)
+    string(FIND "${text}" "\n```\n" end)
+    if(end EQUAL -1)
+      message(FATAL_ERROR "${name} has a block without an end")
+    endif()
+    math(EXPR end "${end} + 1")
+    string(SUBSTRING "${text}" 0 ${end} block)
+    math(EXPR end "${end} + 4")
+    string(SUBSTRING "${text}" ${end} -1 text)
+
+    zel_docs_count_lines("${before}" lines)
+    math(EXPR line "${line} + ${lines} + 1")
+    set(parameters)
+    set(keys)
+    string(FIND "${before}" "<!-- " comment REVERSE)
+    if(NOT comment EQUAL -1)
+      string(SUBSTRING "${before}" ${comment} -1 comment)
+      if(comment MATCHES "^<!-- with: (.*) -->[ \n]*$")
+        set(parameters "${CMAKE_MATCH_1}")
+      elseif(comment MATCHES "^<!-- keys: (.*) -->[ \n]*$")
+        set(keys "${CMAKE_MATCH_1}")
+      endif()
+    endif()
+
+    set(place "#line ${line} \"${page}\"\n")
+    if(block MATCHES "(^|\n)int main\\(")
+      set(file ${folder}/${stem}.cpp)
+      if(file IN_LIST programs)
+        message(FATAL_ERROR "${name} has two whole programs, which would have one name")
+      endif()
+      file(CONFIGURE OUTPUT ${file} CONTENT "${place}@block@" @ONLY)
+      list(APPEND programs ${file})
+      set(ZEL_KEYS_${stem} "${keys}" PARENT_SCOPE)
+    else()
+      math(EXPR number "${number} + 1")
+      # The declaration stands for the callers, who are the readers.
+      set(head "void ${id}_${number}(${parameters})")
+      string(APPEND bodies "\n${head};\n\n${head} {\n${place}${block}}\n")
+    endif()
+    zel_docs_count_lines("${block}" lines)
+    math(EXPR line "${line} + ${lines} + 1")
+  endwhile()
+  set(file)
+  if(bodies)
+    set(file ${folder}/${id}.cpp)
+    file(CONFIGURE OUTPUT ${file}
+         CONTENT "#include <ZelCommonView/ZelCommonView.h>\n\n#include <gtkmm.h>\n@bodies@" @ONLY)
+  endif()
+  set(ZEL_SNIPPETS ${file} PARENT_SCOPE)
+  set(ZEL_SNIPPET_COUNT ${number} PARENT_SCOPE)
+  set(ZEL_PROGRAMS ${programs} PARENT_SCOPE)
+endfunction()
+
+# zel_docs_count_lines(text variable)
+function(zel_docs_count_lines text variable)
+  string(REGEX REPLACE "[^\n]" "" ends "${text}")
+  string(LENGTH "${ends}" count)
+  set(${variable} ${count} PARENT_SCOPE)
+endfunction()
