@@ -330,9 +330,11 @@ Glib::RefPtr<Gdk::Pixbuf> merge(const std::vector<Glib::RefPtr<Gdk::Pixbuf>>& pi
         }
         if (picture->get_width() != merged->get_width() || picture->get_height() != merged->get_height())
             return {};
-        layOver(
-            *picture.operator->(), picture->get_width(), picture->get_height(), *merged.operator->(),
-            [&isExact](const Byte* from, Byte*) { isExact = isExact && (from[3] == 0 || from[3] == 0xff); });
+        layOver(*picture.operator->(), picture->get_width(), picture->get_height(), *merged.operator->(),
+                [&isExact](const Byte* from, Byte* to) {
+                    isExact = isExact && (from[3] == 0 || from[3] == 0xff);
+                    layOver(to, {from[0], from[1], from[2], from[3]});
+                });
         if (!isExact)
             return {};
     }

@@ -304,3 +304,41 @@ TEST_F(PixelPasses, AnOffsetOfTheDeviceIsTakenIntoAccount) {
     sequence.attach(sequence.image(context, function));
     EXPECT_TRUE(isSame(own, sequence.background));
 }
+
+TEST_F(PixelPasses, OnePictureOfManyIsComposedAsTheyAreOneByOne) {
+    for (const int width : {1, 3, 4, 5, 15, 16, 17, 61}) {
+        test::allocate(widget, width, 9);
+        std::vector<Picture> pictures;
+        const auto surface = test::makeSurface(width, 9);
+        const Context context = Cairo::Context::create(surface);
+        const Picture oneByOne = Gdk::Pixbuf::create(Gdk::COLORSPACE_RGB, true, 8, width, 9);
+        oneByOne->fill(0x406080ff);
+        const Picture atOnce = oneByOne->copy();
+        for (unsigned seed = 1; seed <= 5; ++seed) {
+            // Opaque pixels and nothing, as on an opaque target.
+            const auto opaque = Cairo::ImageSurface::create(Cairo::FORMAT_RGB24, width, 9);
+            pictures.push_back(helper._getImage(Cairo::Context::create(opaque),
+                                                drawing(seed * 7, width, 9, {255, 255, 255, 255})));
+            compose(*pictures.back().operator->(), width, 9, *oneByOne.operator->());
+        }
+        const Picture merged = merge(pictures);
+        ASSERT_TRUE(merged);
+        compose(*merged.operator->(), width, 9, *atOnce.operator->());
+        EXPECT_TRUE(isSame(atOnce, oneByOne)) << "width " << width;
+    }
+}
+
+TEST_F(PixelPasses, PicturesThatWouldNotBeExactAreNotMerged) {
+    const Picture picture = Gdk::Pixbuf::create(Gdk::COLORSPACE_RGB, true, 8, 20, 3);
+    picture->fill(0x11223344);
+    EXPECT_FALSE(merge({picture})) << "translucent";
+    picture->fill(0x112233ff);
+    EXPECT_TRUE(merge({picture, picture}));
+    picture->get_pixels()[19 * 4 + 3] = 7;
+    EXPECT_FALSE(merge({picture})) << "one translucent pixel";
+    EXPECT_FALSE(merge({}));
+    EXPECT_FALSE(merge({Picture()}));
+    const Picture large = Gdk::Pixbuf::create(Gdk::COLORSPACE_RGB, true, 8, 21, 3);
+    large->fill(0);
+    EXPECT_FALSE(merge({large, large->copy(), Gdk::Pixbuf::create(Gdk::COLORSPACE_RGB, true, 8, 20, 3)}));
+}
