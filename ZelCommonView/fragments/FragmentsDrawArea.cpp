@@ -104,8 +104,7 @@ void FragmentsDrawArea::redraw() {
 
 void FragmentsDrawArea::redraw(const void* key) {
     redrawAll = false;
-    allFragments.needRedraw = true;
-    allFragments.image.reset();
+    forgetRetained();
     fragments[key].needRedraw = true;
     queue_draw();
 }
@@ -117,6 +116,10 @@ void FragmentsDrawArea::setBackgroundColor(Zel::Color color) {
 
 void FragmentsDrawArea::setIsRetaining(bool value) {
     isRetaining = value;
+    forgetRetained();
+}
+
+void FragmentsDrawArea::forgetRetained() {
     allFragments.needRedraw = true;
     allFragments.image.reset();
 }

@@ -55,6 +55,9 @@ public:
     /// colour. What else a fragment's picture depends on must then be told by a mark. Layers are painted at
     /// each repaint as ever, and all pictures are the same to the byte. Initially false. Asks for no repaint.
     void setIsRetaining(bool value);
+    /// Drops the picture of all fragments, for a change of theirs that no mark tells of. The fragments' own
+    /// images stay. Asks for no repaint.
+    void forgetRetained();
     /// While frozen the area shows the last composed picture and paints nothing else; false at first. Asks
     /// for no repaint.
     void setIsFreezed(bool value);
