@@ -1,8 +1,8 @@
 #include <ZelCommonView/fragments/FragmentDrawerHelper.h>
 
+#include <ZelCommonView/fragments/PixelPasses.h>
 #include <ZelCommonView/plot/CairoColor.h>
 
-#include <gdkmm/general.h>
 #include <gtkmm/widget.h>
 
 #include <algorithm>
@@ -27,8 +27,22 @@ void FragmentDrawerHelper::startFragmentsDraw(const Cairo::RefPtr<Cairo::Context
 void FragmentDrawerHelper::endFragmentsDraw(const Cairo::RefPtr<Cairo::Context>& context) {
     if (!background)
         return;
-    Gdk::Cairo::set_source_pixbuf(context, background, 0, 0);
+    if (_copyBackground(context))
+        return;
+    context->set_source(makeSurface(*background.operator->()), 0, 0);
     context->paint();
+}
+
+bool FragmentDrawerHelper::_copyBackground(const Cairo::RefPtr<Cairo::Context>& context) {
+    const std::optional<SurfacePixels> pixels = _getPixels(context);
+    cairo_surface_t* const target = cairo_get_target(context->cobj());
+    if (!pixels || cairo_get_group_target(context->cobj()) != target ||
+        context->get_operator() != Cairo::OPERATOR_OVER ||
+        !isWholeExposed(context, pixels->width, pixels->height))
+        return false;
+    const bool isCopied = copyOpaque(*background.operator->(), *pixels);
+    cairo_surface_mark_dirty(target);
+    return isCopied;
 }
 
 void FragmentDrawerHelper::draw(const Cairo::RefPtr<Cairo::Context>& context, const DrawFunction& function) {
@@ -39,12 +53,17 @@ void FragmentDrawerHelper::draw(const Cairo::RefPtr<Cairo::Context>& context, co
 
 void FragmentDrawerHelper::drawAsFragment(const Cairo::RefPtr<Cairo::Context>& context,
                                           const DrawFunction& function) {
-    _attachSticker(_getImage(context, function));
+    drawAsFragment(context, std::vector<DrawFunction>{function});
 }
 
 void FragmentDrawerHelper::drawAsFragment(const Cairo::RefPtr<Cairo::Context>& context,
                                           const std::vector<DrawFunction>& functions) {
-    _attachSticker(_getImage(context, functions));
+    _drawLayer(context, functions);
+    const std::optional<SurfacePixels> pixels = _getPixels(context);
+    if (!pixels)
+        _attachSticker(_addAlpha(_getDrawed(context)));
+    else if (background)
+        compose(*pixels, backgroundColor, *background.operator->());
 }
 
 void FragmentDrawerHelper::drawFragment(const Cairo::RefPtr<Cairo::Context>& context, Fragment& fragment) {
@@ -57,7 +76,24 @@ void FragmentDrawerHelper::_clearBackground(const Cairo::RefPtr<Cairo::Context>&
 }
 
 void FragmentDrawerHelper::_saveBackground(const Cairo::RefPtr<Cairo::Context>& context) {
-    background = _getDrawed(context);
+    const std::optional<SurfacePixels> pixels = _getPixels(context);
+    background = pixels ? makePicture(*pixels) : _getDrawed(context);
+}
+
+void FragmentDrawerHelper::_drawLayer(const Cairo::RefPtr<Cairo::Context>& context,
+                                      const std::vector<DrawFunction>& functions) {
+    _clearBackground(context);
+    for (const DrawFunction& function : functions)
+        draw(context, function);
+}
+
+std::optional<SurfacePixels>
+FragmentDrawerHelper::_getPixels(const Cairo::RefPtr<Cairo::Context>& context) const {
+    const int width = widget.get_allocated_width();
+    const int height = widget.get_allocated_height();
+    if (!isOpaque() || width <= 0 || height <= 0)
+        return {};
+    return readableTarget(context, width, height);
 }
 
 Glib::RefPtr<Gdk::Pixbuf>
@@ -91,16 +127,14 @@ FragmentDrawerHelper::_getDrawed(const Cairo::RefPtr<Cairo::Context>& context) c
 
 Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::_getImage(const Cairo::RefPtr<Cairo::Context>& context,
                                                           const DrawFunction& function) {
-    _clearBackground(context);
-    draw(context, function);
-    return _addAlpha(_getDrawed(context));
+    return _getImage(context, std::vector<DrawFunction>{function});
 }
 
 Glib::RefPtr<Gdk::Pixbuf> FragmentDrawerHelper::_getImage(const Cairo::RefPtr<Cairo::Context>& context,
                                                           const std::vector<DrawFunction>& functions) {
-    _clearBackground(context);
-    for (const DrawFunction& function : functions)
-        draw(context, function);
+    _drawLayer(context, functions);
+    if (const std::optional<SurfacePixels> pixels = _getPixels(context))
+        return makePicture(*pixels, backgroundColor);
     return _addAlpha(_getDrawed(context));
 }
 
@@ -128,7 +162,10 @@ void FragmentDrawerHelper::_attachSticker(const Glib::RefPtr<Gdk::Pixbuf>& pictu
     const int width = std::min({widget.get_allocated_width(), picture->get_width(), background->get_width()});
     const int height =
         std::min({widget.get_allocated_height(), picture->get_height(), background->get_height()});
-    picture->composite(background, 0, 0, width, height, 0, 0, 1, 1, Gdk::INTERP_NEAREST, 255);
+    if (picture->get_has_alpha() && background->get_has_alpha())
+        compose(*picture.operator->(), width, height, *background.operator->());
+    else
+        picture->composite(background, 0, 0, width, height, 0, 0, 1, 1, Gdk::INTERP_NEAREST, 255);
 }
 
 } // namespace ZelView::Fragments

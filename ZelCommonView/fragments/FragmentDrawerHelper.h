@@ -7,6 +7,7 @@
 #include <gdkmm/pixbuf.h>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace Gtk {
@@ -14,6 +15,8 @@ class Widget;
 }
 
 namespace ZelView::Fragments {
+
+struct SurfacePixels;
 
 using DrawFunction = std::function<void(const Cairo::RefPtr<Cairo::Context>&)>;
 
@@ -29,6 +32,10 @@ struct Fragment {
 /// A layer is painted on the background colour, and that colour is then made transparent. What a layer paints
 /// in exactly the background colour thus disappears. A widget without a size gets no picture, and nothing is
 /// composed.
+///
+/// Where the background colour is opaque and the context paints on an image of 32 bits, a layer is read from
+/// there and composed in one pass over the pixels; everywhere else a snapshot, the colour key and the
+/// composition are steps of their own. Both make the same picture to the byte.
 class ZEL_API FragmentDrawerHelper {
 public:
     /// The widget gives the size, and must outlive the helper.
@@ -40,6 +47,9 @@ public:
     Glib::RefPtr<Gdk::Pixbuf> getBackground() const;
     /// Initially opaque white. Images that are cached already keep the colour they were made with.
     void setBackgroundColor(Zel::Color color);
+
+    /// Whether the background colour lets nothing through.
+    bool isOpaque() const { return backgroundColor.a == 255; }
 
     /// Clears to the background colour and starts a new picture.
     void startFragmentsDraw(const Cairo::RefPtr<Cairo::Context>& context);
@@ -59,6 +69,9 @@ public:
 private:
     void _clearBackground(const Cairo::RefPtr<Cairo::Context>& context);
     void _saveBackground(const Cairo::RefPtr<Cairo::Context>& context);
+    bool _copyBackground(const Cairo::RefPtr<Cairo::Context>& context);
+    void _drawLayer(const Cairo::RefPtr<Cairo::Context>& context, const std::vector<DrawFunction>& functions);
+    std::optional<SurfacePixels> _getPixels(const Cairo::RefPtr<Cairo::Context>& context) const;
     Glib::RefPtr<Gdk::Pixbuf> _getDrawed(const Cairo::RefPtr<Cairo::Context>& context) const;
     Glib::RefPtr<Gdk::Pixbuf> _getImage(const Cairo::RefPtr<Cairo::Context>& context,
                                         const DrawFunction& function);

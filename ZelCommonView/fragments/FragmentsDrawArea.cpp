@@ -1,9 +1,58 @@
 #include <ZelCommonView/fragments/FragmentsDrawArea.h>
 
+#include <ZelCommonView/fragments/PixelPasses.h>
+
+#include <algorithm>
+
 namespace ZelView {
+
+namespace {
+
+bool isImage(const Cairo::RefPtr<Cairo::Surface>& surface) {
+    return cairo_surface_get_type(surface->cobj()) == CAIRO_SURFACE_TYPE_IMAGE;
+}
+
+/// Whether a unit of the surface is a pixel of it.
+bool isPlain(const Cairo::RefPtr<Cairo::Surface>& surface) {
+    double scaleX = 1;
+    double scaleY = 1;
+    cairo_surface_get_device_scale(surface->cobj(), &scaleX, &scaleY);
+    return scaleX == 1 && scaleY == 1;
+}
+
+Cairo::Content contentOf(const Cairo::RefPtr<Cairo::Surface>& surface) {
+    return static_cast<Cairo::Content>(cairo_surface_get_content(surface->cobj()));
+}
+
+/// A context on a new surface of the target's kind. Throws where there is no memory for it.
+Cairo::RefPtr<Cairo::Context> contextLike(const Cairo::RefPtr<Cairo::Surface>& target, int width,
+                                          int height) {
+    return Cairo::Context::create(Cairo::Surface::create(target, contentOf(target), width, height));
+}
+
+/// A context on a new image whose pixels the target takes quickly. Texts look as they do on the target.
+/// Throws where there is no memory for it.
+Cairo::RefPtr<Cairo::Context> imageContextFor(const Cairo::RefPtr<Cairo::Surface>& target, int width,
+                                              int height) {
+    const cairo_format_t format =
+        contentOf(target) == Cairo::CONTENT_COLOR ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32;
+    cairo_surface_t* const image = cairo_surface_create_similar_image(target->cobj(), format, width, height);
+    const Cairo::RefPtr<Cairo::Surface> surface(new Cairo::ImageSurface(image, true));
+    const Cairo::RefPtr<Cairo::Context> context = Cairo::Context::create(surface);
+    Cairo::FontOptions options;
+    target->get_font_options(options);
+    context->set_font_options(options);
+    return context;
+}
+
+} // namespace
 
 FragmentsDrawArea::FragmentsDrawArea() : helper(*this) {
     property_expand() = true;
+    allFragments.drawer = [this](const Cairo::RefPtr<Cairo::Context>& context) {
+        for (const auto& [key, fragment] : fragments)
+            helper.draw(context, fragment.drawer);
+    };
     signal_configure_event().connect(sigc::mem_fun(*this, &FragmentsDrawArea::_onConfigure), true);
 }
 
@@ -35,16 +84,19 @@ void FragmentsDrawArea::addFragment(const void* key, DrawFunction function) {
 
 void FragmentsDrawArea::removeFragment(const void* key) {
     fragments.erase(key);
+    allFragments.needRedraw = true;
     queue_draw();
 }
 
 void FragmentsDrawArea::removeFragments() {
     fragments.clear();
+    allFragments.needRedraw = true;
     queue_draw();
 }
 
 void FragmentsDrawArea::redraw() {
     redrawAll = true;
+    allFragments.needRedraw = true;
     for (auto& [key, fragment] : fragments)
         fragment.needRedraw = true;
     queue_draw();
@@ -52,12 +104,24 @@ void FragmentsDrawArea::redraw() {
 
 void FragmentsDrawArea::redraw(const void* key) {
     redrawAll = false;
+    forgetRetained();
     fragments[key].needRedraw = true;
     queue_draw();
 }
 
 void FragmentsDrawArea::setBackgroundColor(Zel::Color color) {
     helper.setBackgroundColor(color);
+    allFragments.needRedraw = true;
+}
+
+void FragmentsDrawArea::setIsRetaining(bool value) {
+    isRetaining = value;
+    forgetRetained();
+}
+
+void FragmentsDrawArea::forgetRetained() {
+    allFragments.needRedraw = true;
+    allFragments.image.reset();
 }
 
 void FragmentsDrawArea::setIsFreezed(bool value) {
@@ -79,8 +143,9 @@ void FragmentsDrawArea::saveSummaryImage(const std::string& fileName, const std:
 bool FragmentsDrawArea::on_draw(const Cairo::RefPtr<Cairo::Context>& context) {
     if (isFreezed)
         frozenImage.draw(context);
-    else if (_isWholeExposed(context))
-        _drawLayers(context);
+    else if (isImage(context->get_target()) &&
+             Fragments::isWholeExposed(context, get_allocated_width(), get_allocated_height()))
+        _drawLayers(context, context->get_target());
     else
         _drawOnOwnSurface(context);
     return true;
@@ -91,24 +156,12 @@ bool FragmentsDrawArea::_onConfigure(GdkEventConfigure*) {
     return false;
 }
 
-bool FragmentsDrawArea::_isWholeExposed(const Cairo::RefPtr<Cairo::Context>& context) const {
-    // The extents alone would not do: they also cover the holes of a clip that is made of several rectangles.
-    std::vector<Cairo::Rectangle> clip;
-    try {
-        context->copy_clip_rectangle_list(clip);
-    } catch (const std::exception&) {
-        return false; // not made of rectangles
-    }
-    return clip.size() == 1 && clip[0].x <= 0 && clip[0].y <= 0 &&
-           clip[0].x + clip[0].width >= get_allocated_width() &&
-           clip[0].y + clip[0].height >= get_allocated_height();
-}
-
-void FragmentsDrawArea::_drawLayers(const Cairo::RefPtr<Cairo::Context>& context) {
+void FragmentsDrawArea::_drawLayers(const Cairo::RefPtr<Cairo::Context>& context,
+                                    const Cairo::RefPtr<Cairo::Surface>& target) {
     _drawStart(context);
     helper.startFragmentsDraw(context);
     _drawBeforeFragments(context);
-    _drawFragments(context);
+    _drawFragments(context, target);
     _drawAfterFragments(context);
     helper.endFragmentsDraw(context);
     _drawEnd(context);
@@ -116,29 +169,32 @@ void FragmentsDrawArea::_drawLayers(const Cairo::RefPtr<Cairo::Context>& context
 
 void FragmentsDrawArea::_drawOnOwnSurface(const Cairo::RefPtr<Cairo::Context>& context) {
     const Cairo::RefPtr<Cairo::Surface> target = context->get_target();
-    const auto content = static_cast<Cairo::Content>(cairo_surface_get_content(target->cobj()));
-    Cairo::RefPtr<Cairo::Surface> surface;
+    const int width = get_allocated_width();
+    const int height = get_allocated_height();
+    // The layers meet in the pixels, which are at hand in an image and far away on a display. A background
+    // that lets something through needs what is there already, which would have to come from the display.
+    const bool onImage = helper.isOpaque() && isPlain(target) && contentOf(target) != Cairo::CONTENT_ALPHA;
     Cairo::RefPtr<Cairo::Context> own;
     try {
-        surface = Cairo::Surface::create(target, content, get_allocated_width(), get_allocated_height());
-        own = Cairo::Context::create(surface);
+        own = onImage ? imageContextFor(target, width, height) : contextLike(target, width, height);
     } catch (const std::exception&) {
-        _drawLayers(context); // too large for a surface: what is exposed is better than nothing
+        _drawLayers(context, target); // too large for a surface: what is exposed is better than nothing
         return;
     }
 
-    // What is there already, for a background colour that lets it through.
-    double x = 0;
-    double y = 0;
-    context->user_to_device(x, y);
-    own->save();
-    own->set_source(target, -x, -y);
-    own->paint();
-    own->restore();
+    if (!onImage) {
+        double x = 0;
+        double y = 0;
+        context->user_to_device(x, y);
+        own->save();
+        own->set_source(target, -x, -y);
+        own->paint();
+        own->restore();
+    }
 
-    _drawLayers(own);
+    _drawLayers(own, onImage ? target : own->get_target());
     context->save();
-    context->set_source(surface, 0, 0);
+    context->set_source(own->get_target(), 0, 0);
     context->set_operator(Cairo::OPERATOR_SOURCE);
     context->paint();
     context->restore();
@@ -154,18 +210,61 @@ void FragmentsDrawArea::_drawBeforeFragments(const Cairo::RefPtr<Cairo::Context>
         helper.drawAsFragment(context, function);
 }
 
-void FragmentsDrawArea::_drawFragments(const Cairo::RefPtr<Cairo::Context>& context) {
-    if (!redrawAll) {
-        for (auto& [key, fragment] : fragments)
-            helper.drawFragment(context, fragment);
-        return;
+void FragmentsDrawArea::_drawFragments(const Cairo::RefPtr<Cairo::Context>& context,
+                                       const Cairo::RefPtr<Cairo::Surface>& target) {
+    // Also one that grew or shrank without a word.
+    if (allFragments.image && (allFragments.image->get_width() != get_allocated_width() ||
+                               allFragments.image->get_height() != get_allocated_height()))
+        allFragments.needRedraw = true;
+    // A curve of many strokes is painted sooner where the display itself lends a hand; its picture is fetched
+    // once.
+    Cairo::RefPtr<Cairo::Context> painting = context;
+    if (!isImage(target) && target != context->get_target() && _isFragmentOutOfDate()) {
+        try {
+            painting = contextLike(target, get_allocated_width(), get_allocated_height());
+        } catch (const std::exception&) {
+            painting = context; // no memory at the display
+        }
     }
 
-    std::vector<DrawFunction> functions;
-    functions.reserve(fragments.size());
-    for (const auto& [key, fragment] : fragments)
-        functions.push_back(fragment.drawer);
-    helper.drawAsFragment(context, functions);
+    if (redrawAll && !isRetaining) {
+        std::vector<DrawFunction> functions;
+        functions.reserve(fragments.size());
+        for (const auto& [key, fragment] : fragments)
+            functions.push_back(fragment.drawer);
+        helper.drawAsFragment(painting, functions);
+    } else if (redrawAll || _mergeFragments()) {
+        try {
+            helper.drawFragment(painting, allFragments);
+        } catch (...) {
+            allFragments.needRedraw = true;
+            throw;
+        }
+    } else {
+        for (auto& [key, fragment] : fragments)
+            helper.drawFragment(painting, fragment);
+    }
+}
+
+bool FragmentsDrawArea::_mergeFragments() {
+    if (!isRetaining || fragments.size() < 2 || _isFragmentOutOfDate())
+        return false;
+    if (allFragments.needRedraw) {
+        std::vector<Glib::RefPtr<Gdk::Pixbuf>> images;
+        images.reserve(fragments.size());
+        for (const auto& [key, fragment] : fragments)
+            images.push_back(fragment.image);
+        allFragments.image = Fragments::merge(images);
+        allFragments.needRedraw = false;
+    }
+    return bool(allFragments.image);
+}
+
+bool FragmentsDrawArea::_isFragmentOutOfDate() const {
+    if (redrawAll)
+        return !isRetaining || allFragments.needRedraw;
+    return std::any_of(fragments.begin(), fragments.end(),
+                       [](const auto& entry) { return entry.second.needRedraw; });
 }
 
 void FragmentsDrawArea::_drawAfterFragments(const Cairo::RefPtr<Cairo::Context>& context) {

@@ -50,6 +50,14 @@ public:
 
     /// Initially opaque white. Asks for no repaint, and images that are cached already keep their colour.
     void setBackgroundColor(Zel::Color color);
+    /// Whether one picture of all fragments is kept, too, and composed at the next repaints until one of
+    /// these comes: `redraw()`, a fragment that is added, removed or marked, another size or background
+    /// colour. What else a fragment's picture depends on must then be told by a mark. Layers are painted at
+    /// each repaint as ever, and all pictures are the same to the byte. Initially false. Asks for no repaint.
+    void setIsRetaining(bool value);
+    /// Drops the picture of all fragments, for a change of theirs that no mark tells of. The fragments' own
+    /// images stay. Asks for no repaint.
+    void forgetRetained();
     /// While frozen the area shows the last composed picture and paints nothing else; false at first. Asks
     /// for no repaint.
     void setIsFreezed(bool value);
@@ -67,12 +75,15 @@ protected:
 
 private:
     bool _onConfigure(GdkEventConfigure* event);
-    bool _isWholeExposed(const Cairo::RefPtr<Cairo::Context>& context) const;
-    void _drawLayers(const Cairo::RefPtr<Cairo::Context>& context);
+    void _drawLayers(const Cairo::RefPtr<Cairo::Context>& context,
+                     const Cairo::RefPtr<Cairo::Surface>& target);
     void _drawOnOwnSurface(const Cairo::RefPtr<Cairo::Context>& context);
     void _drawStart(const Cairo::RefPtr<Cairo::Context>& context);
     void _drawBeforeFragments(const Cairo::RefPtr<Cairo::Context>& context);
-    void _drawFragments(const Cairo::RefPtr<Cairo::Context>& context);
+    void _drawFragments(const Cairo::RefPtr<Cairo::Context>& context,
+                        const Cairo::RefPtr<Cairo::Surface>& target);
+    bool _isFragmentOutOfDate() const;
+    bool _mergeFragments();
     void _drawAfterFragments(const Cairo::RefPtr<Cairo::Context>& context);
     void _drawEnd(const Cairo::RefPtr<Cairo::Context>& context);
 
@@ -85,6 +96,8 @@ private:
     bool isFreezed = false;
     ImageDrawer frozenImage;
     bool redrawAll = false; ///< all fragments are painted in one go
+    bool isRetaining = false;
+    Fragments::Fragment allFragments; ///< one picture of all, while they are retained
 };
 
 } // namespace ZelView

@@ -63,6 +63,8 @@ SeriesGroupDrawArea& DrawAreaSections::_getSeriesGroupDrawArea(unsigned long ind
 
 void DrawAreaSections::_createDrawArea() {
     SeriesGroupDrawArea& drawArea = drawAreas.emplace_back();
+    // Pointer and markers move over curves that stay as they are.
+    drawArea.getFragmensDrawArea().setIsRetaining(true);
     drawArea.show();
     drawArea.set_size_request(-1, static_cast<int>(_getDrawAreaMinHeight()));
     _onDrawAreaCreate(drawArea);

@@ -132,6 +132,8 @@ void SeriesGroupDrawArea::addDrawer(std::unique_ptr<BaseFragmentableDrawer> draw
     drawer->fragmentables = &fragmentableCollection.getFragmentableCollection();
     _initDrawer(*drawer);
     drawersManager.addDrawer(std::move(drawer));
+    // Whose share the next picture of all fragments holds, too.
+    fragmentsDrawArea.forgetRetained();
 }
 
 void SeriesGroupDrawArea::_initDrawer(Drawer& drawer) {

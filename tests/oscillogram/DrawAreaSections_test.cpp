@@ -1,5 +1,6 @@
 #include "oscillogram/Sections.h"
 #include "support/Hands.h"
+#include "support/Pictures.h"
 
 #include <ZelCommonView/oscillogram/DrawAreaSections.h>
 
@@ -76,6 +77,37 @@ TEST_F(DrawAreaSectionsTest, APlotIsShownAndSizedBeforeItIsFittedOutAndOnlyThenT
     EXPECT_EQ(shelf.height, 33);
     EXPECT_EQ(shelf.created, shelf.getDrawAreas());
     EXPECT_EQ(shelf.told, shelf.getDrawAreas());
+}
+
+TEST_F(DrawAreaSectionsTest, EachPlotRetainsItsPictures) {
+    for (SeriesGroupDrawArea* area : {&shelf._getSeriesGroupDrawArea(0), &shelf._getSeriesGroupDrawArea(2)})
+        EXPECT_TRUE(area->getFragmensDrawArea().isRetaining);
+    SeriesGroupDrawArea bare;
+    EXPECT_FALSE(bare.getFragmensDrawArea().isRetaining);
+}
+
+TEST_F(DrawAreaSectionsTest, ADrawerThatComesLaterIsInTheNextPicture) {
+    SeriesGroupDrawArea& area = shelf._getSeriesGroupDrawArea(0);
+    FragmentsDrawArea& canvas = area.getFragmensDrawArea();
+    test::allocate(canvas, 50, 30);
+    area.addFragmentable(first);
+    canvas.redraw();
+    const auto paint = [&canvas] {
+        return test::paint(
+            50, 30, [&canvas](const Cairo::RefPtr<Cairo::Context>& context) { canvas.on_draw(context); });
+    };
+    const auto before = paint();
+
+    class Filling : public BaseFragmentableDrawer {
+        void drawFragmentable(const Cairo::RefPtr<Cairo::Context>& context,
+                              const Zel::IFragmentable&) override {
+            context->set_source_rgb(1, 0, 0);
+            context->paint();
+        }
+    };
+
+    area.addDrawer(std::make_unique<Filling>());
+    EXPECT_FALSE(paint() == before);
 }
 
 TEST_F(DrawAreaSectionsTest, AskingForAPlotMakesAllBeforeIt) {
