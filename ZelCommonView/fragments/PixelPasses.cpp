@@ -255,7 +255,7 @@ bool isWholeExposed(const Cairo::RefPtr<Cairo::Context>& context, int width, int
 }
 
 Glib::RefPtr<Gdk::Pixbuf> makePicture(const SurfacePixels& pixels) {
-    const Glib::RefPtr<Gdk::Pixbuf> picture = emptyPicture(pixels);
+    Glib::RefPtr<Gdk::Pixbuf> picture = emptyPicture(pixels);
     if (!picture)
         return picture;
     const Word fill = fillOf(pixels);
@@ -273,7 +273,7 @@ Glib::RefPtr<Gdk::Pixbuf> makePicture(const SurfacePixels& pixels) {
 }
 
 Glib::RefPtr<Gdk::Pixbuf> makePicture(const SurfacePixels& pixels, Zel::Color transparent) {
-    const Glib::RefPtr<Gdk::Pixbuf> picture = emptyPicture(pixels);
+    Glib::RefPtr<Gdk::Pixbuf> picture = emptyPicture(pixels);
     if (!picture)
         return picture;
     const Word fill = fillOf(pixels);

@@ -54,7 +54,8 @@ private:
     void _addCurve(const std::string& name, int phase, unsigned int plot, float usual, float during) {
         Zel::Series& curve = _add(name, phase);
         curve.drawAreaIndex = plot;
-        for (float time = 0; time <= duration; time += 0.5f) {
+        for (int sample = 0; sample <= 2 * static_cast<int>(duration); ++sample) {
+            const float time = static_cast<float>(sample) / 2;
             const float size = time >= faultBegin && time <= faultEnd ? during : usual;
             const float turns = time / 20 - static_cast<float>(phase) / 3; // at 50 Hz
             curve.points.push_back({time, size * std::sin(2 * static_cast<float>(G_PI) * turns)});
