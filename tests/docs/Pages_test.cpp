@@ -1,6 +1,7 @@
 // The pages of the documentation among themselves: every family of the gallery has its page, no link leads
 // nowhere, no block of C++ escapes the compiler, and every diagram belongs to its source.
 #include "support/TemporaryFolder.h"
+#include "support/Texts.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <regex>
 #include <set>
 #include <sstream>
 
@@ -47,16 +47,6 @@ std::string withoutBlocks(const std::string& text) {
             kept += line + "\n";
     }
     return kept;
-}
-
-/// The first group of each match.
-std::vector<std::string> findAll(const std::string& text, const char* expression) {
-    const std::regex regex(expression);
-    std::vector<std::string> found;
-    for (auto match = std::sregex_iterator(text.begin(), text.end(), regex); match != std::sregex_iterator();
-         ++match)
-        found.push_back((*match)[1]);
-    return found;
 }
 
 /// What the sign of a title becomes in an address: small letters, digits and hyphens.
@@ -102,7 +92,7 @@ TEST(Pages, HaveNoDeadLink) {
     int count = 0;
     for (const fs::path& page : allPages()) {
         const std::string text = withoutBlocks(test::readFile(page));
-        for (const std::string& link : findAll(text, R"(\]\(([^)\s]+)\))")) {
+        for (const std::string& link : test::groupsIn(text, R"(\]\(([^)\s]+)\))")) {
             if (link.find("://") != std::string::npos || link.rfind("mailto:", 0) == 0)
                 continue;
             ++count;
@@ -195,10 +185,10 @@ TEST(Families, NameEachPublicHeader) {
     std::string text;
     for (const auto& entry : fs::directory_iterator(root / "docs" / "families"))
         text += test::readFile(entry.path());
-    const std::vector<std::string> words = findAll(text, R"(\b([A-Za-z]+)\b)");
+    const std::vector<std::string> words = test::groupsIn(text, R"(\b([A-Za-z]+)\b)");
     const std::set<std::string> known(words.begin(), words.end());
     const std::vector<std::string> headers =
-        findAll(test::readFile(root / "ZelCommonView" / "ZelCommonView.h"), R"(/([A-Za-z]+)\.h>)");
+        test::groupsIn(test::readFile(root / "ZelCommonView" / "ZelCommonView.h"), R"(/([A-Za-z]+)\.h>)");
     EXPECT_GE(headers.size(), 100u);
     for (const std::string& header : headers)
         // That of the export macro has nothing to tell of.
@@ -207,7 +197,7 @@ TEST(Families, NameEachPublicHeader) {
 
 TEST(Families, AreListedInTheOrderOfTheGallery) {
     const std::string text = test::readFile(root / "docs" / "families" / "README.md");
-    EXPECT_EQ(findAll(text, R"(\]\(([a-z-]+)\.md\))"), galleryPages());
+    EXPECT_EQ(test::groupsIn(text, R"(\]\(([a-z-]+)\.md\))"), galleryPages());
 }
 
 TEST(Diagrams, BelongToTheirSources) {
@@ -238,7 +228,7 @@ TEST(Diagrams, TheMapAgreesWithTheIncludes) {
         if (from == "." || (extension != ".h" && extension != ".cpp"))
             continue;
         for (const std::string& to :
-             findAll(test::readFile(entry.path()), R"(#include <ZelCommonView/([a-z]+)/)"))
+             test::groupsIn(test::readFile(entry.path()), R"(#include <ZelCommonView/([a-z]+)/)"))
             // All stand on common, of which the map shows two arrows only.
             if (to != from && to != "common")
                 (extension == ".h" ? inHeaders : inSources).insert(from + " -> " + to);
@@ -250,7 +240,7 @@ TEST(Diagrams, TheMapAgreesWithTheIncludes) {
     std::set<std::string> dashed;
     std::istringstream stream(test::readFile(root / "docs" / "diagrams" / "rooms.dot"));
     for (std::string line; std::getline(stream, line);)
-        for (const std::string& arrow : findAll(line, R"(^ *([a-z]+ -> [a-z]+))"))
+        for (const std::string& arrow : test::groupsIn(line, R"(^ *([a-z]+ -> [a-z]+))"))
             if (arrow.find("-> common") == std::string::npos)
                 (line.find("dashed") == std::string::npos ? solid : dashed).insert(arrow);
     EXPECT_EQ(solid, inHeaders);

@@ -1,12 +1,13 @@
 // Every public header of the library is shown by a page of the gallery.
 #include "support/TemporaryFolder.h"
+#include "support/Texts.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <map>
-#include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 
 namespace {
@@ -68,20 +69,24 @@ const std::map<std::string, std::string> helpers{
     {"presentation/WidgetReference.h", "a pointer inside of classes"},
 };
 
-void collect(const std::string& text, const std::regex& expression, Names& found) {
-    for (std::sregex_iterator match(text.begin(), text.end(), expression), end; match != end; ++match)
-        found.insert((*match)[1]);
+void collect(const std::string& text, const char* expression, Names& found) {
+    for (const std::string& name : test::groupsIn(text, expression))
+        found.insert(name);
 }
 
 std::string withoutComments(const std::string& text) {
-    return std::regex_replace(text, std::regex("//[^\n]*"), "");
+    std::string kept;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        kept += line.substr(0, line.find("//")) + "\n";
+    return kept;
 }
 
 /// The headers that the umbrella header lists, such as "plot/Series.h".
 Names publicHeaders() {
     Names headers;
-    collect(test::readFile(fs::path(LIBRARY) / "ZelCommonView.h"),
-            std::regex("#include <ZelCommonView/([^>]+)>"), headers);
+    collect(test::readFile(fs::path(LIBRARY) / "ZelCommonView.h"), "#include <ZelCommonView/([^>]+)>",
+            headers);
     return headers;
 }
 
@@ -100,8 +105,8 @@ const std::string& pageSources() {
 Names namesIn(const std::string& header) {
     const std::string text = "\n" + withoutComments(test::readFile(fs::path(LIBRARY) / header));
     Names names;
-    collect(text, std::regex(R"#(\n(?:class|struct|enum class|enum) (?:ZEL_API )?(\w+)[^;{]*\{)#"), names);
-    collect(text, std::regex(R"#(\nZEL_API [^(;]*?(\w+)\()#"), names);
+    collect(text, R"#(\n(?:class|struct|enum class|enum) (?:ZEL_API )?(\w+)[^;{]*\{)#", names);
+    collect(text, R"#(\nZEL_API [^(;]*?(\w+)\()#", names);
     return names;
 }
 
@@ -111,7 +116,7 @@ bool isShown(const std::string& header) {
         return true;
     static const Names words = [] {
         Names found;
-        collect(pageSources(), std::regex(R"#((\w+))#"), found);
+        collect(pageSources(), R"#((\w+))#", found);
         return found;
     }();
     for (const std::string& name : namesIn(header))
