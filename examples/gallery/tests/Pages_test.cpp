@@ -1,7 +1,6 @@
 // What holds for every page of the gallery.
 #include "Pages.h"
 #include "Pictures.h"
-#include "Search.h"
 #include "common/Look.h"
 
 #include "support/Hands.h"
@@ -35,10 +34,6 @@ test::Picture pictureOf(const Page& page) {
     return test::pictureOf(host.picture());
 }
 
-void countFinalised(gpointer count, GObject*) {
-    ++*static_cast<int*>(count);
-}
-
 } // namespace
 
 TEST_P(PagesTest, PaintsSomethingBeyondItsBackgroundInBothLanguages) {
@@ -66,36 +61,6 @@ TEST_P(PagesTest, LooksLightAndDarkAsAsked) {
 TEST_P(PagesTest, LooksTheSameEachTimeItIsPainted) {
     const test::Picture first = test::pictureOf(gallery::paintPage(GetParam()));
     EXPECT_TRUE(test::pictureOf(gallery::paintPage(GetParam())) == first);
-}
-
-TEST_P(PagesTest, FiftyLivesLeaveNoWidgetBehind) {
-    int made = 0;
-    int finalised = 0;
-    for (int i = 0; i < 50; ++i) {
-        const auto widget = GetParam().create();
-        for (Gtk::Widget* part : test::findAll<Gtk::Widget>(*widget)) {
-            g_object_weak_ref(G_OBJECT(part->gobj()), countFinalised, &finalised);
-            ++made;
-        }
-    }
-    test::settle();
-    EXPECT_GE(made, 100);
-    EXPECT_EQ(finalised, made);
-}
-
-TEST_P(PagesTest, LeavesNoWidgetBehindWhenItWasPainted) {
-    int finalised = 0;
-    int made = 0;
-    for (int i = 0; i < 3; ++i) {
-        const auto widget = GetParam().create();
-        test::OffscreenHost host(*widget, 800, 500);
-        for (Gtk::Widget* part : test::findAll<Gtk::Widget>(*widget)) {
-            g_object_weak_ref(G_OBJECT(part->gobj()), countFinalised, &finalised);
-            ++made;
-        }
-    }
-    test::settle();
-    EXPECT_EQ(finalised, made);
 }
 
 TEST_P(PagesTest, CarriesTheTextOfItsOwnFile) {
