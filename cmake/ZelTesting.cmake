@@ -48,7 +48,7 @@ function(zel_add_test folder file)
   # The sanitizers make a program many times slower.
   set(timeout 300)
   if(ZEL_SANITIZE)
-    set(timeout 900)
+    set(timeout 1800)
   endif()
   set(command ${target})
   if(ZEL_SANITIZE)

@@ -13,9 +13,9 @@ namespace test {
 
 namespace {
 
-constexpr int lookEvery = 20;       // milliseconds
-constexpr gint64 restTime = 150000; // microseconds
-constexpr int patienceTime = 15000; // milliseconds
+constexpr int lookEvery = 20;                        // milliseconds
+constexpr gint64 restTime = 150000;                  // microseconds
+constexpr int patienceTime = 15000 * test::patience; // milliseconds
 
 } // namespace
 
