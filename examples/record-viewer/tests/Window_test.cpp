@@ -364,7 +364,8 @@ TEST_F(ViewerHelp, TheAboutWindowOpensOnceAndAgainAndShowsTheLicence) {
         for (Gtk::Label* const label : test::findAll<Gtk::Label>(*about))
             if (label->get_mapped())
                 texts.push_back(label->get_text());
-        for (const char* const text : {"Record viewer", ZEL_VERSION, "License agreement", "Third party components"})
+        for (const char* const text :
+             {"Record viewer", ZEL_VERSION, "License agreement", "Third party components"})
             EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
         for (Gtk::LinkButton* const link : test::findAll<Gtk::LinkButton>(*about))
             if (link->get_mapped())
