@@ -4,6 +4,7 @@
 //
 // Both sides of a ratio are run by turns, each first as often as the other.
 
+#include "Screen.h"
 #include "Timing.h"
 #include "Verdict.h"
 
@@ -33,8 +34,20 @@ public:
     }
 };
 
-/// A grid and a curve such as a layer holds.
+/// A grid and a band such as layers hold. It costs little by itself, since both sides of the comparison paint
+/// it.
 void paintLayer(const Context& context) {
+    context->set_source_rgb(0.8, 0, 0);
+    for (int i = 0; i < 20; ++i)
+        context->rectangle(50 + 96 * i, 0, 1, 4096);
+    for (int i = 0; i < 12; ++i)
+        context->rectangle(0, 20 + 90 * i, 4096, 1);
+    context->rectangle(300, 0, 200, 4096);
+    context->fill();
+}
+
+/// Curves such as fragments hold.
+void paintCurves(const Context& context) {
     context->set_source_rgb(0.8, 0, 0);
     for (int i = 0; i < 8; ++i) {
         context->move_to(0, 100 + 110 * i);
@@ -58,52 +71,61 @@ void runByTurns(benchmark::State& state, const std::function<void()>& own, const
     bench::judge(state, what, median(otherSeconds) / median(ownSeconds), limit, true);
 }
 
-/// The layer is painted by both; what is compared is the way from its pixels into the picture.
+/// A canvas that is painted on an image, and a picture for the other side of the comparison.
+struct OnImage {
+    explicit OnImage(const benchmark::State& state)
+        : width(static_cast<int>(state.range(0))), height(static_cast<int>(state.range(1))),
+          widget(width, height), helper(widget),
+          context(Cairo::Context::create(Cairo::ImageSurface::create(Cairo::FORMAT_ARGB32, width, height))) {
+        helper.startFragmentsDraw(context);
+        background = helper.getBackground()->copy();
+    }
+
+    /// The composition as gdk-pixbuf does it.
+    void compose(const Glib::RefPtr<Gdk::Pixbuf>& picture) {
+        picture->composite(background, 0, 0, width, height, 0, 0, 1, 1, Gdk::INTERP_NEAREST, 255);
+    }
+
+    /// The target of a figure that counts at the large size; at the small one it is only told.
+    double limit(double atFullSize) const { return width == 1920 ? atFullSize : 1; }
+
+    int width;
+    int height;
+    Sized widget;
+    ZelView::Fragments::FragmentDrawerHelper helper;
+    Context context;
+    Glib::RefPtr<Gdk::Pixbuf> background;
+};
+
 void layer(benchmark::State& state) {
-    const int width = static_cast<int>(state.range(0));
-    const int height = static_cast<int>(state.range(1));
-    Sized widget(width, height);
-    ZelView::Fragments::FragmentDrawerHelper helper(widget);
-    const Context context =
-        Cairo::Context::create(Cairo::ImageSurface::create(Cairo::FORMAT_ARGB32, width, height));
-    helper.startFragmentsDraw(context);
-    const Glib::RefPtr<Gdk::Pixbuf> background = helper.getBackground()->copy();
-    paintLayer(context);
-    const std::vector<ZelView::Fragments::DrawFunction> paintsNothing;
+    OnImage canvas(state);
+    const Context& context = canvas.context;
     const auto sequence = [&] {
         context->save();
         context->set_source_rgb(1, 1, 1);
         context->paint();
+        paintLayer(context);
         context->restore();
-        const auto snapshot = Cairo::ImageSurface::create(Cairo::FORMAT_ARGB32, width, height);
+        const auto snapshot = Cairo::ImageSurface::create(Cairo::FORMAT_ARGB32, canvas.width, canvas.height);
         const Context copy = Cairo::Context::create(snapshot);
         copy->set_source(context->get_target(), 0, 0);
         copy->paint();
         snapshot->flush();
-        Gdk::Pixbuf::create(snapshot, 0, 0, width, height)
-            ->add_alpha(true, 255, 255, 255)
-            ->composite(background, 0, 0, width, height, 0, 0, 1, 1, Gdk::INTERP_NEAREST, 255);
+        canvas.compose(
+            Gdk::Pixbuf::create(snapshot, 0, 0, canvas.width, canvas.height)->add_alpha(true, 255, 255, 255));
     };
     runByTurns(
-        state, [&] { helper.drawAsFragment(context, paintsNothing); }, sequence,
-        "layer, times as fast as the sequence", width == 1920 ? 8 : 1);
+        state, [&] { canvas.helper.drawAsFragment(context, paintLayer); }, sequence,
+        "layer, times as fast as the sequence", canvas.limit(8));
 }
 
 void fragment(benchmark::State& state) {
-    const int width = static_cast<int>(state.range(0));
-    const int height = static_cast<int>(state.range(1));
-    Sized widget(width, height);
-    ZelView::Fragments::FragmentDrawerHelper helper(widget);
-    const Context context =
-        Cairo::Context::create(Cairo::ImageSurface::create(Cairo::FORMAT_ARGB32, width, height));
-    helper.startFragmentsDraw(context);
-    const Glib::RefPtr<Gdk::Pixbuf> background = helper.getBackground()->copy();
-    ZelView::Fragments::Fragment kept{true, paintLayer, {}};
-    helper.drawFragment(context, kept);
+    OnImage canvas(state);
+    ZelView::Fragments::Fragment kept{true, paintCurves, {}};
+    canvas.helper.drawFragment(canvas.context, kept);
     runByTurns(
-        state, [&] { helper.drawFragment(context, kept); },
-        [&] { kept.image->composite(background, 0, 0, width, height, 0, 0, 1, 1, Gdk::INTERP_NEAREST, 255); },
-        "fragment, times as fast as gdk", width == 1920 ? 4 : 1);
+        state, [&] { canvas.helper.drawFragment(canvas.context, kept); }, [&] { canvas.compose(kept.image); },
+        "fragment, times as fast as gdk", canvas.limit(4));
 }
 
 constexpr int analogs = 8;
@@ -129,24 +151,6 @@ std::vector<Zel::Series> makeRecord(int points) {
     return record;
 }
 
-void settle() {
-    for (int quiet = 0; quiet < 50; ++quiet) {
-        while (Gtk::Main::events_pending()) {
-            Gtk::Main::iteration();
-            quiet = 0;
-        }
-        g_usleep(1000);
-    }
-}
-
-void collect(Gtk::Widget& widget, std::vector<ZelView::FragmentsDrawArea*>& found) {
-    if (auto* canvas = dynamic_cast<ZelView::FragmentsDrawArea*>(&widget))
-        found.push_back(canvas);
-    else if (auto* container = dynamic_cast<Gtk::Container*>(&widget))
-        for (Gtk::Widget* child : container->get_children())
-            collect(*child, found);
-}
-
 /// An oscillograph in a window of full size, and the largest of its canvases.
 struct Shown {
     explicit Shown(int points) : record(makeRecord(points)) {
@@ -157,9 +161,9 @@ struct Shown {
         window.set_default_size(1920, 1080);
         window.add(oscillograph);
         window.show_all();
-        settle();
+        bench::settle();
         std::vector<ZelView::FragmentsDrawArea*> canvases;
-        collect(oscillograph, canvases);
+        bench::collectCanvases(oscillograph, canvases);
         canvas = *std::max_element(canvases.begin(), canvases.end(), [](auto* one, auto* other) {
             return one->get_allocated_width() * one->get_allocated_height() <
                    other->get_allocated_width() * other->get_allocated_height();
@@ -170,19 +174,8 @@ struct Shown {
 
     double secondsOfMotion() {
         x = x > 1500 ? 100 : x + 7;
-        GdkEvent* const event = gdk_event_new(GDK_MOTION_NOTIFY);
-        event->motion.window = canvas->get_window()->gobj();
-        g_object_ref(event->motion.window);
-        event->motion.x = x;
-        event->motion.y = 60;
-        gtk_widget_event(GTK_WIDGET(canvas->gobj()), event);
-        gdk_event_free(event);
-        return secondsOf([this] {
-            G_GNUC_BEGIN_IGNORE_DEPRECATIONS
-            gdk_window_process_updates(window.get_window()->gobj(), TRUE);
-            G_GNUC_END_IGNORE_DEPRECATIONS
-            gdk_display_sync(gdk_display_get_default()); // which does a part of the painting
-        });
+        bench::movePointer(*canvas, x, 60);
+        return secondsOf([this] { bench::paint(window); });
     }
 
     std::vector<Zel::Series> record;

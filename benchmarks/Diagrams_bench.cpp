@@ -6,6 +6,7 @@
 // written to a file of the same size; a step of the wheel with the same points drawn on a surface of the size
 // that the diagram then has.
 
+#include "Screen.h"
 #include "Timing.h"
 
 #include <ZelCommonView/diagrams/FiguresDrawManager.h>
@@ -27,6 +28,7 @@ namespace {
 
 using bench::median;
 using bench::secondsOf;
+using bench::settle;
 
 constexpr int figuresOfAPicture = 100;
 constexpr int pictures = 50;
@@ -35,16 +37,6 @@ constexpr std::size_t pointsOfADiagram = 10000;
 
 std::size_t heapInUse() {
     return mallinfo2().uordblks;
-}
-
-void settle() {
-    for (int quiet = 0; quiet < 50; ++quiet) {
-        while (Gtk::Main::events_pending()) {
-            Gtk::Main::iteration();
-            quiet = 0;
-        }
-        g_usleep(1000);
-    }
 }
 
 std::unique_ptr<Zel::Circle> makeCircle(int i) {

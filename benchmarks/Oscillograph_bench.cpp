@@ -5,6 +5,7 @@
 // both; the ratio of the medians is what counts. For a step the baseline paints the same curves and rows
 // straight on surfaces of the same kind and size as the plots'; for a motion it paints one such picture.
 
+#include "Screen.h"
 #include "Timing.h"
 
 #include <ZelCommonView/oscillogram/Oscillograph.h>
@@ -26,6 +27,7 @@ namespace {
 
 using bench::median;
 using bench::secondsOf;
+using bench::settle;
 
 constexpr int width = 1920;
 constexpr int height = 1080;
@@ -68,17 +70,6 @@ std::vector<Zel::Series> makeRecord() {
     return record;
 }
 
-/// Runs the main loop until it has been idle for three frames.
-void settle() {
-    for (int quiet = 0; quiet < 50; ++quiet) {
-        while (Gtk::Main::events_pending()) {
-            Gtk::Main::iteration();
-            quiet = 0;
-        }
-        g_usleep(1000);
-    }
-}
-
 /// An oscillograph in a window of full size.
 struct Shown {
     explicit Shown(const std::vector<Zel::Series>& record) {
@@ -97,13 +88,7 @@ struct Shown {
         settle();
     }
 
-    /// Paints what is out of date, now and not with the next frame.
-    void paint() {
-        G_GNUC_BEGIN_IGNORE_DEPRECATIONS
-        gdk_window_process_updates(window.get_window()->gobj(), TRUE);
-        G_GNUC_END_IGNORE_DEPRECATIONS
-        finishPainting();
-    }
+    void paint() { bench::paint(window); }
 
     /// Waits for the display, which does a part of the painting.
     static void finishPainting() { gdk_display_sync(gdk_display_get_default()); }
@@ -117,7 +102,7 @@ struct Shown {
     /// All canvases from top to bottom.
     std::vector<ZelView::FragmentsDrawArea*> canvases() {
         std::vector<ZelView::FragmentsDrawArea*> found;
-        collect(oscillograph, found);
+        bench::collectCanvases(oscillograph, found);
         const auto top = [this](ZelView::FragmentsDrawArea* canvas) {
             int x = 0;
             int y = 0;
@@ -126,14 +111,6 @@ struct Shown {
         };
         std::sort(found.begin(), found.end(), [&top](auto* a, auto* b) { return top(a) < top(b); });
         return found;
-    }
-
-    static void collect(Gtk::Widget& widget, std::vector<ZelView::FragmentsDrawArea*>& found) {
-        if (auto* canvas = dynamic_cast<ZelView::FragmentsDrawArea*>(&widget))
-            found.push_back(canvas);
-        else if (auto* container = dynamic_cast<Gtk::Container*>(&widget))
-            for (Gtk::Widget* child : container->get_children())
-                collect(*child, found);
     }
 
     ZelView::Oscillograph oscillograph;
@@ -215,13 +192,7 @@ void pointerMotion(benchmark::State& state) {
     double x = 100;
     const auto move = [&] {
         x = x > 1500 ? 100 : x + 7;
-        GdkEvent* const event = gdk_event_new(GDK_MOTION_NOTIFY);
-        event->motion.window = canvas.get_window()->gobj();
-        g_object_ref(event->motion.window);
-        event->motion.x = x;
-        event->motion.y = 60;
-        gtk_widget_event(GTK_WIDGET(canvas.gobj()), event);
-        gdk_event_free(event);
+        bench::movePointer(canvas, x, 60);
         shown.paint();
     };
     const auto picture = shown.makeSurface(canvas);

@@ -126,13 +126,20 @@ TEST(JobsPage, CountsOnAnotherThreadAndIsReadyForTheNextTask) {
 }
 
 TEST(JobsPage, MayGoInTheMiddleOfATask) {
+    int gone = 0;
     for (int i = 0; i < 20; ++i) {
         PageHost page("jobs");
+        g_object_weak_ref(
+            G_OBJECT(page.widget->gobj()), [](gpointer count, GObject*) { ++*static_cast<int*>(count); },
+            &gone);
         test::findAll<Gtk::SpinButton>(*page.widget).front()->set_value(1000000);
-        test::findLabelled<Gtk::Button>(*page.widget, "Count")->clicked();
+        auto* const button = test::findLabelled<Gtk::Button>(*page.widget, "Count");
+        button->clicked();
         test::wait(5);
+        EXPECT_FALSE(button->get_sensitive()) << "the task is over already";
     }
     test::settle();
+    EXPECT_EQ(gone, 20);
 }
 
 TEST(ServicesPage, AnswersWhatIsTyped) {
